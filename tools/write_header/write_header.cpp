@@ -229,9 +229,9 @@ uint32_t _zetGetMode(void);
  * distance of the function's first array from this pointer, in elements. For a caller that cuts one array into pieces.
  * Null, the state of a new thread, switches it off. @return the pointer
  */
-const void *qorl_zet_kernel_SetInterfInputVectorPointer(const void *vector);
+void *qorl_zet_kernel_SetInterfInputVectorPointer(void *vector);
 /** @copydoc qorl_zet_kernel_SetInterfInputVectorPointer */
-const void *_zetSetInterfInputVectorPointer(const void *vector);
+void *_zetSetInterfInputVectorPointer(void *vector);
 
 /* ---------------------------------------------------------------------------------------------------------------------
  * Queries. The kernel tables that they index are declared in qorl/zet_tables.h.
