@@ -111,11 +111,13 @@ constexpr std::string_view name_suffix(char type, Level level) {
 }
 
 static_assert(std::size(entries) == 480);
-static_assert([] {
-    for (std::size_t i = 0; i < std::size(entries); ++i)
-        if (entries[i].index != static_cast<int>(i)) return false;
-    return true;
-}(), "the indices are dense and in order");
+static_assert(
+    [] {
+        for (std::size_t i = 0; i < std::size(entries); ++i)
+            if (entries[i].index != static_cast<int>(i)) return false;
+        return true;
+    }(),
+    "the indices are dense and in order");
 static_assert([] {
     int kernels = 0;
     for (const Entry &entry : entries) kernels += entry.kernels();
@@ -126,15 +128,17 @@ static_assert([] {
     for (const NameRows &name : name_rows) rows += name.count();
     return rows;
 }() == 277);
-static_assert([] {
-    for (const Function &function : functions)
-        if (find_entry(function.type, function.name) == nullptr) return false;
-    for (const NameRows &name : name_rows)
-        if (find_entry(name.type, name.function) == nullptr) return false;
-    for (const Cost &cost : costs)
-        if (find_entry(cost.type, cost.function) == nullptr) return false;
-    return true;
-}(), "every function, name row and cost belongs to an entry");
+static_assert(
+    [] {
+        for (const Function &function : functions)
+            if (find_entry(function.type, function.name) == nullptr) return false;
+        for (const NameRows &name : name_rows)
+            if (find_entry(name.type, name.function) == nullptr) return false;
+        for (const Cost &cost : costs)
+            if (find_entry(cost.type, cost.function) == nullptr) return false;
+        return true;
+    }(),
+    "every function, name row and cost belongs to an entry");
 
 }  // namespace qorl
 

@@ -1,0 +1,262 @@
+// Packs of 256-bit registers: the vocabulary in which kernel bodies are written.
+//
+// Pack<T, N> is N registers of double, float, int64_t or int32_t. An operation on packs is N instructions next to each
+// other, so that a formula written once comes out interleaved stage by stage over the whole block. Mask<T, N> is the
+// result of a comparison, of the real type whose lanes it covers. Every fused operation is written as one.
+#ifndef QORL_FRAME_VEC_HPP
+#define QORL_FRAME_VEC_HPP
+
+#include <array>
+#include <type_traits>
+#include <utility>
+
+#include "frame/lane.hpp"
+
+namespace qorl {
+
+// Calls f(I) for the registers I = 0 .. N - 1, unrolled.
+template <int N, class F>
+QORL_INLINE void each_register(F &&f) {
+    [&]<int... I>(std::integer_sequence<int, I...>) {
+        (f(I), ...);
+    }
+    (std::make_integer_sequence<int, N>{});
+}
+
+template <class T, int N>
+struct Pack {
+    using Ops = Lane<T>;
+    using Register = typename Ops::Register;
+    static constexpr int registers = N;
+    static constexpr int lanes = N * Ops::count;
+
+    Register v[N];
+
+    Pack() = default;
+    QORL_INLINE Pack(T value) {  // implicit: a scalar constant is the same number in all lanes
+        each_register<N>([&](int i) { v[i] = Ops::broadcast(value); });
+    }
+
+    template <auto F, class... P>
+    QORL_INLINE static Pack map(const P &...p) {  // F on each register
+        Pack r;
+        each_register<N>([&](int i) { r.v[i] = F(p.v[i]...); });
+        return r;
+    }
+
+    QORL_INLINE friend Pack operator+(Pack a, Pack b) { return map<Ops::add>(a, b); }
+    QORL_INLINE friend Pack operator-(Pack a, Pack b) { return map<Ops::sub>(a, b); }
+    QORL_INLINE friend Pack operator&(Pack a, Pack b) { return map<Ops::bit_and>(a, b); }
+    QORL_INLINE friend Pack operator|(Pack a, Pack b) { return map<Ops::bit_or>(a, b); }
+    QORL_INLINE friend Pack operator^(Pack a, Pack b) { return map<Ops::bit_xor>(a, b); }
+
+    // Real packs.
+    QORL_INLINE friend Pack operator*(Pack a, Pack b) { return map<Ops::mul>(a, b); }
+    QORL_INLINE friend Pack operator/(Pack a, Pack b) { return map<Ops::div>(a, b); }
+    QORL_INLINE friend Pack operator-(Pack a) { return a ^ Pack(T(-0.0)); }
+    QORL_INLINE friend Pack fma(Pack a, Pack b, Pack c) { return map<Ops::fma>(a, b, c); }    // a b + c
+    QORL_INLINE friend Pack fms(Pack a, Pack b, Pack c) { return map<Ops::fms>(a, b, c); }    // a b - c
+    QORL_INLINE friend Pack fnma(Pack a, Pack b, Pack c) { return map<Ops::fnma>(a, b, c); }  // c - a b
+    QORL_INLINE friend Pack sqrt(Pack a) { return map<Ops::sqrt>(a); }
+    QORL_INLINE friend Pack min(Pack a, Pack b) { return map<Ops::min>(a, b); }  // b where either is NaN
+    QORL_INLINE friend Pack max(Pack a, Pack b) { return map<Ops::max>(a, b); }
+    QORL_INLINE friend Pack abs(Pack a) { return map<Ops::bit_andnot>(Pack(T(-0.0)), a); }
+    QORL_INLINE friend Pack round_to_int(Pack a) { return map<Ops::round>(a); }  // to nearest, ties to even
+
+    // Integer packs.
+    QORL_INLINE friend Pack shift_left(Pack a, int k) {
+        Pack r;
+        each_register<N>([&](int i) { r.v[i] = Ops::shift_left(a.v[i], k); });
+        return r;
+    }
+    QORL_INLINE friend Pack shift_right(Pack a, int k) {  // zeros come in from the left
+        Pack r;
+        each_register<N>([&](int i) { r.v[i] = Ops::shift_right(a.v[i], k); });
+        return r;
+    }
+};
+
+template <class T, int N>
+struct Mask {  // T real; all bits of a lane are set or clear, of a sign mask the top bit counts
+    Pack<T, N> lanes;
+    QORL_INLINE friend Mask operator|(Mask a, Mask b) { return {a.lanes | b.lanes}; }
+    QORL_INLINE friend Mask operator&(Mask a, Mask b) { return {a.lanes & b.lanes}; }
+};
+
+// Reads and writes. The strided forms take their data from memory straight into vectors and back.
+template <int N, class T>
+QORL_INLINE Pack<T, N> load(const T *p) {
+    Pack<T, N> r;
+    each_register<N>([&](int i) { r.v[i] = Lane<T>::load(p + i * Lane<T>::count); });
+    return r;
+}
+template <class T, int N>
+QORL_INLINE void store(T *p, Pack<T, N> x) {
+    each_register<N>([&](int i) { Lane<T>::store(p + i * Lane<T>::count, x.v[i]); });
+}
+template <int N, class T>
+QORL_INLINE Pack<T, N> collect(const T *p, std::ptrdiff_t stride) {  // by scalar loads
+    Pack<T, N> r;
+    each_register<N>([&](int i) { r.v[i] = Lane<T>::collect(p + i * Lane<T>::count * stride, stride); });
+    return r;
+}
+template <int N, class T>
+QORL_INLINE Pack<T, N> gather(const T *p, std::ptrdiff_t stride) {  // by gather instructions
+    Pack<T, N> r;
+    each_register<N>([&](int i) { r.v[i] = Lane<T>::gather(p + i * Lane<T>::count * stride, stride); });
+    return r;
+}
+template <class T, int N>
+QORL_INLINE void scatter(T *p, std::ptrdiff_t stride, Pack<T, N> x) {
+    each_register<N>([&](int i) { Lane<T>::scatter(p + i * Lane<T>::count * stride, stride, x.v[i]); });
+}
+
+// The first k lanes of one register, 0 <= k <= lanes; memory behind them is not touched.
+template <class T>
+struct FirstLanes {
+    __m256i mask;
+    QORL_INLINE explicit FirstLanes(std::ptrdiff_t k) {
+        static constexpr std::array<std::int32_t, 16> ones{-1, -1, -1, -1, -1, -1, -1, -1};  // then eight zeros
+        mask = _mm256_loadu_si256(reinterpret_cast<const __m256i *>(
+            ones.data() + 8 - k * static_cast<std::ptrdiff_t>(sizeof(T) / sizeof(std::int32_t))));
+    }
+};
+template <class T>
+QORL_INLINE Pack<T, 1> load_first(const T *p, FirstLanes<T> first, T safe) {
+    Pack<T, 1> r;
+    r.v[0] =
+        Lane<T>::select(Lane<T>::from_bits(first.mask), Lane<T>::masked_load(p, first.mask), Lane<T>::broadcast(safe));
+    return r;
+}
+template <class T>
+QORL_INLINE void store_first(T *p, FirstLanes<T> first, Pack<T, 1> x) {
+    Lane<T>::masked_store(p, first.mask, x.v[0]);
+}
+
+// Bits of real numbers as integers of their width, and back.
+template <class T, int N>
+QORL_INLINE Pack<typename Lane<T>::Bits, N> bits(Pack<T, N> x) {
+    Pack<typename Lane<T>::Bits, N> r;
+    each_register<N>([&](int i) { r.v[i] = Lane<T>::to_bits(x.v[i]); });
+    return r;
+}
+template <class I, int N>
+QORL_INLINE Pack<typename Lane<I>::Real, N> real(Pack<I, N> x) {
+    Pack<typename Lane<I>::Real, N> r;
+    each_register<N>([&](int i) { r.v[i] = Lane<typename Lane<I>::Real>::from_bits(x.v[i]); });
+    return r;
+}
+
+// Comparisons. Those of real numbers are quiet; the first four are false where an operand is NaN.
+#define QORL_COMPARE(name, predicate)                                                  \
+    template <class T, int N>                                                          \
+    QORL_INLINE Mask<T, N> name(Pack<T, N> a, std::type_identity_t<Pack<T, N>> b) {    \
+        return {Pack<T, N>::template map<Lane<T>::template compare<predicate>>(a, b)}; \
+    }
+QORL_COMPARE(less, _CMP_LT_OQ)
+QORL_COMPARE(less_equal, _CMP_LE_OQ)
+QORL_COMPARE(greater, _CMP_GT_OQ)
+QORL_COMPARE(equal, _CMP_EQ_OQ)
+QORL_COMPARE(not_less_equal, _CMP_NLE_UQ)  // true where an operand is NaN
+QORL_COMPARE(not_equal, _CMP_NEQ_UQ)
+#undef QORL_COMPARE
+
+template <class I, int N>
+QORL_INLINE Mask<typename Lane<I>::Real, N> int_greater(Pack<I, N> a, std::type_identity_t<Pack<I, N>> b) {
+    return {real(Pack<I, N>::template map<Lane<I>::greater>(a, b))};
+}
+template <class I, int N>
+QORL_INLINE Mask<typename Lane<I>::Real, N> int_equal(Pack<I, N> a, std::type_identity_t<Pack<I, N>> b) {
+    return {real(Pack<I, N>::template map<Lane<I>::equal>(a, b))};
+}
+
+template <class T, int N>
+QORL_INLINE Pack<T, N> select(Mask<T, N> m, std::type_identity_t<Pack<T, N>> a, std::type_identity_t<Pack<T, N>> b) {
+    return Pack<T, N>::template map<Lane<T>::select>(m.lanes, a, b);  // a where the mask is set
+}
+
+// Bit l of the result is lane l of the mask.
+template <class T, int N>
+QORL_INLINE unsigned lane_bits(Mask<T, N> m) {
+    unsigned r = 0;
+    each_register<N>([&](int i) { r |= Lane<T>::sign_bits(m.lanes.v[i]) << (i * Lane<T>::count); });
+    return r;
+}
+// True if any lane is set: the registers are or-ed first, one move to the integer side serves the block.
+template <class T, int N>
+QORL_INLINE bool any(Mask<T, N> m) {
+    auto all = m.lanes.v[0];
+    each_register<N>([&](int i) { all = Lane<T>::bit_or(all, m.lanes.v[i]); });
+    return Lane<T>::sign_bits(all) != 0;
+}
+
+// Table reads. Plain loads by integer registers: on the processors at hand faster than gather instructions, and a pair
+// of words costs what one word costs.
+template <int N>
+QORL_INLINE Pack<double, N> lookup(const double *table, Pack<std::int64_t, N> index) {
+    Pack<double, N> r;
+    each_register<N>([&](int i) {
+        const __m128i low = _mm256_castsi256_si128(index.v[i]), high = _mm256_extracti128_si256(index.v[i], 1);
+        const __m128d a = _mm_loadh_pd(_mm_load_sd(table + _mm_cvtsi128_si64(low)), table + _mm_extract_epi64(low, 1));
+        const __m128d b =
+            _mm_loadh_pd(_mm_load_sd(table + _mm_cvtsi128_si64(high)), table + _mm_extract_epi64(high, 1));
+        r.v[i] = _mm256_insertf128_pd(_mm256_castpd128_pd256(a), b, 1);
+    });
+    return r;
+}
+// The pair of doubles that stands `offset` bytes behind the start of the table, both words at once; 16-byte aligned.
+template <int N>
+QORL_INLINE void lookup_pair(const double *table, Pack<std::int64_t, N> offset, Pack<double, N> &first,
+                             Pack<double, N> &second) {
+    const char *base = reinterpret_cast<const char *>(table);
+    const auto pair = [base](long long at) { return _mm_load_pd(reinterpret_cast<const double *>(base + at)); };
+    each_register<N>([&](int i) {
+        const __m128i low = _mm256_castsi256_si128(offset.v[i]), high = _mm256_extracti128_si256(offset.v[i], 1);
+        const __m256d a = _mm256_insertf128_pd(_mm256_castpd128_pd256(pair(_mm_cvtsi128_si64(low))),
+                                               pair(_mm_cvtsi128_si64(high)), 1);
+        const __m256d b = _mm256_insertf128_pd(_mm256_castpd128_pd256(pair(_mm_extract_epi64(low, 1))),
+                                               pair(_mm_extract_epi64(high, 1)), 1);
+        first.v[i] = _mm256_unpacklo_pd(a, b);
+        second.v[i] = _mm256_unpackhi_pd(a, b);
+    });
+}
+// One of four floats, by the low two bits of each index; the table is the same in both halves of a register.
+template <int N>
+QORL_INLINE Pack<float, N> lookup4(const std::array<float, 4> &table, Pack<std::int32_t, N> index) {
+    const __m128 four = _mm_loadu_ps(table.data());
+    const __m256 both = _mm256_setr_m128(four, four);
+    Pack<float, N> r;
+    each_register<N>([&](int i) { r.v[i] = _mm256_permutevar_ps(both, index.v[i]); });
+    return r;
+}
+// One of eight floats, by the low three bits of each index.
+template <int N>
+QORL_INLINE Pack<float, N> lookup8(const std::array<float, 8> &table, Pack<std::int32_t, N> index) {
+    const __m256 eight = _mm256_loadu_ps(table.data());
+    Pack<float, N> r;
+    each_register<N>([&](int i) { r.v[i] = _mm256_permutevar8x32_ps(eight, index.v[i]); });
+    return r;
+}
+
+// Single to double precision and back: register 2 i and 2 i + 1 of the wide pack are the halves of register i.
+template <int N>
+QORL_INLINE Pack<double, 2 * N> widen(Pack<float, N> x) {
+    Pack<double, 2 * N> r;
+    each_register<N>([&](int i) {
+        r.v[2 * i] = _mm256_cvtps_pd(_mm256_castps256_ps128(x.v[i]));
+        r.v[2 * i + 1] = _mm256_cvtps_pd(_mm256_extractf128_ps(x.v[i], 1));
+    });
+    return r;
+}
+template <int N>
+QORL_INLINE Pack<float, N / 2> narrow(Pack<double, N> x) {
+    static_assert(N % 2 == 0);
+    Pack<float, N / 2> r;
+    each_register<N / 2>(
+        [&](int i) { r.v[i] = _mm256_setr_m128(_mm256_cvtpd_ps(x.v[2 * i]), _mm256_cvtpd_ps(x.v[2 * i + 1])); });
+    return r;
+}
+
+}  // namespace qorl
+
+#endif
