@@ -55,10 +55,10 @@ constexpr std::string_view zet_head = R"(#ifndef QORL_ZET_H
  * | `c`        | QorlComplex8               | `_21` | none, also `_HA`   | `_11` |
  * | `z`        | QorlComplex16              | `_50` | none, also `_HA`   | `_26` |
  *
- * HA, high accuracy: error below 1 ulp (unit in the last place of the correctly rounded result). LA, low accuracy:
- * below 4 ulp. EP, enhanced performance: relative error up to 2^-11 in single and 2^-26 in double precision. The number
- * in a suffix labels the level by the type's width. The measured errors stand in docs/accuracy.md. A function that is
- * exact, or whose levels share their code, gives the same bits at those levels.
+ * HA, high accuracy: error below 1 ulp (unit in the last place of the correctly rounded result). LA, lower accuracy:
+ * below 4 ulp. EP, for speed, about half the bits: relative error up to 2^-11 in single and 2^-26 in double precision.
+ * The number in a suffix labels the level by the type's width. The measured errors stand in docs/accuracy.md. A
+ * function that is exact, or whose levels share their code, gives the same bits at those levels.
  *
  * A trailing `I` behind the function name marks the strided form: each array is followed at once by its stride.
  *
