@@ -1,0 +1,62 @@
+// e^x for one double outside the range of the vector bodies: results next to overflow, denormal results, and the rest.
+//
+// Method   x = (64 k + j) ln2/64 + r, |r| <= ln2/128; e^x = 2^k (T + T (q(r) + Tlo)), T + Tlo = 2^(j/64) to 105 bits,
+//          q of degree 6.
+// Error    0.51 ulp, denormal results included: they are formed with 2^60 times their size and in two words where the
+//          last rounding would otherwise come twice.
+// Source   P. T. P. Tang, Table-driven implementation of the exponential function, ACM TOMS 15(2), 1989.
+#ifndef QORL_KERNELS_EXP_SCALAR_HPP
+#define QORL_KERNELS_EXP_SCALAR_HPP
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+#include "kernels/tables/exp_d.hpp"
+
+namespace qorl {
+
+// e^x = 2^k (t + t (q + t_lo)).
+struct ExpParts {
+    double t, t_lo, q;
+    std::int64_t k;
+};
+
+inline ExpParts exp_parts(double x) {
+    using namespace tables;
+    const double shifted = std::fma(x, exp_64_per_ln2, round_shift);
+    const double n = shifted - round_shift;
+    const double r = std::fma(-n, exp_ln2_64_lo, std::fma(-n, exp_ln2_64_hi, x));
+    const std::int64_t bits = std::bit_cast<std::int64_t>(shifted) - std::bit_cast<std::int64_t>(round_shift);
+    double p = exp_scalar_poly[4];
+    for (int i = 3; i >= 0; --i) p = std::fma(p, r, exp_scalar_poly[i]);
+    const int j = static_cast<int>(bits & 63);
+    return {exp2_pairs_64[2 * j], exp2_pairs_64[2 * j + 1], std::fma(r * r, p, r), bits >> 6};
+}
+
+inline double power_of_two(std::int64_t k) {  // for a normal result
+    return std::bit_cast<double>((k + 1023) << 52);
+}
+
+// 2^k (t + t (q + t_lo)) for a result up to the very top of the range.
+inline double assemble(const ExpParts &e) {
+    const double z = std::fma(e.t, e.q + e.t_lo, e.t);
+    if (e.k < 1024) return z * power_of_two(e.k);
+    return z * 0x1p1023 + z * 0x1p1023;
+}
+
+// The same for a denormal result, rounded once at its final scale.
+inline double assemble_denormal(const ExpParts &e) {
+    const double scale = power_of_two(e.k + 60);
+    const double high = e.t * scale, low = e.t * (e.q + e.t_lo) * scale;
+    const double v = high + low;
+    if (e.k + 1083 <= 50) return v * 0x1p-60;  // few bits are left: the second rounding is far below them
+    constexpr double splitter = 0x1.8p32;
+    const double w = (v + v * splitter) - v * splitter;  // the leading bits of v, exact at the final scale
+    return 0x1p-60 * w + 0x1p-60 * ((low + (high - v)) + (v - w));
+}
+
+}  // namespace qorl
+
+#endif
