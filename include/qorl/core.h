@@ -200,6 +200,280 @@ QORL_CORE_API const QorlThreadTable *qorl_core_thread_table(void);
  */
 QORL_CORE_API const QorlThreadTable *qorl_core_serial_table(void);
 
+/* --------------------------------------------------------------------------------------------- BLAS and LAPACK -- */
+
+/*
+ * Linear algebra, under the names that the system calls: what the BLAS and LAPACK library that this one is linked with
+ * has under the same name without the prefix.
+ *
+ * Everything goes by pointer. Integers are 32 bits wide: who has more than 2^31 - 1 rows works in blocks. Matrices are
+ * stored by columns, with the leading dimension lda (ldb, ...) between columns, at least the number of rows and at
+ * least 1; a matrix stored by rows is thus the transpose, and its lower triangle is the upper one here. Of a character
+ * argument the first letter counts, in either case: side "L" or "R", triangle (uplo) "U" or "L". Arrays that are
+ * written overlap no other argument.
+ *
+ * Where the result has an `info`, a bad argument is told there; else the BLAS library's own handler is called, which
+ * prints. All are thread safe. They may use threads of their own, as OMP_NUM_THREADS asks, but inside a body of a loop
+ * that runs on several threads they run on that thread alone, as does an unthreaded form (with an x before the type
+ * letter) wherever it is called. Both hold for OpenBLAS in its OpenMP build and for any BLAS that has no threads;
+ * another one has its own rules. Results may differ in the last bits between thread counts and processors.
+ */
+
+/**
+ * @brief Matrix product: C := alpha op(A) op(B) + beta C.
+ * @param transa,transb "N" for op(X) = X, "T" for its transpose.
+ * @param m,n,k         op(A) is m by k, op(B) is k by n, C is m by n.
+ * @param alpha,beta    Scalars; with beta 0 the contents of C are not read.
+ * @param a,lda,b,ldb   The factors.
+ * @param c,ldc         The result.
+ */
+QORL_CORE_API void qorl_core_dgemm(const char *transa, const char *transb, const int32_t *m, const int32_t *n,
+                                   const int32_t *k, const double *alpha, const double *a, const int32_t *lda,
+                                   const double *b, const int32_t *ldb, const double *beta, double *c,
+                                   const int32_t *ldc);
+
+/** Single precision form of qorl_core_dgemm(). */
+QORL_CORE_API void qorl_core_sgemm(const char *transa, const char *transb, const int32_t *m, const int32_t *n,
+                                   const int32_t *k, const float *alpha, const float *a, const int32_t *lda,
+                                   const float *b, const int32_t *ldb, const float *beta, float *c, const int32_t *ldc);
+
+/** Unthreaded form of qorl_core_dgemm(). */
+QORL_CORE_API void qorl_core_xdgemm(const char *transa, const char *transb, const int32_t *m, const int32_t *n,
+                                    const int32_t *k, const double *alpha, const double *a, const int32_t *lda,
+                                    const double *b, const int32_t *ldb, const double *beta, double *c,
+                                    const int32_t *ldc);
+
+/** Unthreaded form of qorl_core_sgemm(). */
+QORL_CORE_API void qorl_core_xsgemm(const char *transa, const char *transb, const int32_t *m, const int32_t *n,
+                                    const int32_t *k, const float *alpha, const float *a, const int32_t *lda,
+                                    const float *b, const int32_t *ldb, const float *beta, float *c,
+                                    const int32_t *ldc);
+
+/**
+ * @brief Matrix times vector: y := alpha op(A) x + beta y.
+ * @param trans      "N" for op(A) = A, "T" for its transpose.
+ * @param m,n        A is m by n.
+ * @param alpha,beta Scalars; with beta 0 the contents of y are not read.
+ * @param a,lda      The matrix.
+ * @param x,incx     The vector and the step between its elements, not 0.
+ * @param y,incy     The result and the step between its elements, not 0.
+ */
+QORL_CORE_API void qorl_core_dgemv(const char *trans, const int32_t *m, const int32_t *n, const double *alpha,
+                                   const double *a, const int32_t *lda, const double *x, const int32_t *incx,
+                                   const double *beta, double *y, const int32_t *incy);
+
+/** Single precision form of qorl_core_dgemv(). */
+QORL_CORE_API void qorl_core_sgemv(const char *trans, const int32_t *m, const int32_t *n, const float *alpha,
+                                   const float *a, const int32_t *lda, const float *x, const int32_t *incx,
+                                   const float *beta, float *y, const int32_t *incy);
+
+/**
+ * @brief Product with a symmetric matrix: C := alpha A B + beta C (side "L") or alpha B A + beta C (side "R").
+ * @param side       Where the symmetric matrix stands.
+ * @param uplo       The triangle of A that is read.
+ * @param m,n        B and C are m by n; A is of order m (side "L") or n (side "R").
+ * @param alpha,beta Scalars; with beta 0 the contents of C are not read.
+ * @param a,lda      The symmetric matrix.
+ * @param b,ldb      The other factor.
+ * @param c,ldc      The result.
+ */
+QORL_CORE_API void qorl_core_dsymm(const char *side, const char *uplo, const int32_t *m, const int32_t *n,
+                                   const double *alpha, const double *a, const int32_t *lda, const double *b,
+                                   const int32_t *ldb, const double *beta, double *c, const int32_t *ldc);
+
+/** Single precision form of qorl_core_dsymm(). */
+QORL_CORE_API void qorl_core_ssymm(const char *side, const char *uplo, const int32_t *m, const int32_t *n,
+                                   const float *alpha, const float *a, const int32_t *lda, const float *b,
+                                   const int32_t *ldb, const float *beta, float *c, const int32_t *ldc);
+
+/** Unthreaded form of qorl_core_dsymm(). */
+QORL_CORE_API void qorl_core_xdsymm(const char *side, const char *uplo, const int32_t *m, const int32_t *n,
+                                    const double *alpha, const double *a, const int32_t *lda, const double *b,
+                                    const int32_t *ldb, const double *beta, double *c, const int32_t *ldc);
+
+/** Unthreaded form of qorl_core_ssymm(). */
+QORL_CORE_API void qorl_core_xssymm(const char *side, const char *uplo, const int32_t *m, const int32_t *n,
+                                    const float *alpha, const float *a, const int32_t *lda, const float *b,
+                                    const int32_t *ldb, const float *beta, float *c, const int32_t *ldc);
+
+/**
+ * @brief Symmetric update of rank one: A := alpha x x' + A.
+ * @param uplo   The triangle of A that is updated.
+ * @param n      The order of A.
+ * @param alpha  Scalar.
+ * @param x,incx The vector and the step between its elements, not 0.
+ * @param a,lda  The matrix.
+ */
+QORL_CORE_API void qorl_core_dsyr(const char *uplo, const int32_t *n, const double *alpha, const double *x,
+                                  const int32_t *incx, double *a, const int32_t *lda);
+
+/** Single precision form of qorl_core_dsyr(). */
+QORL_CORE_API void qorl_core_ssyr(const char *uplo, const int32_t *n, const float *alpha, const float *x,
+                                  const int32_t *incx, float *a, const int32_t *lda);
+
+/** Unthreaded form of qorl_core_dsyr(). */
+QORL_CORE_API void qorl_core_xdsyr(const char *uplo, const int32_t *n, const double *alpha, const double *x,
+                                   const int32_t *incx, double *a, const int32_t *lda);
+
+/** Unthreaded form of qorl_core_ssyr(). */
+QORL_CORE_API void qorl_core_xssyr(const char *uplo, const int32_t *n, const float *alpha, const float *x,
+                                   const int32_t *incx, float *a, const int32_t *lda);
+
+/**
+ * @brief Symmetric update of rank k: C := alpha A A' + beta C (trans "N") or alpha A' A + beta C (trans "T").
+ * @param uplo       The triangle of C that is updated.
+ * @param trans      The form.
+ * @param n,k        C is of order n; A is n by k (trans "N") or k by n (trans "T").
+ * @param alpha,beta Scalars; with beta 0 the contents of C are not read.
+ * @param a,lda      The factor.
+ * @param c,ldc      The result.
+ */
+QORL_CORE_API void qorl_core_dsyrk(const char *uplo, const char *trans, const int32_t *n, const int32_t *k,
+                                   const double *alpha, const double *a, const int32_t *lda, const double *beta,
+                                   double *c, const int32_t *ldc);
+
+/** Single precision form of qorl_core_dsyrk(). */
+QORL_CORE_API void qorl_core_ssyrk(const char *uplo, const char *trans, const int32_t *n, const int32_t *k,
+                                   const float *alpha, const float *a, const int32_t *lda, const float *beta, float *c,
+                                   const int32_t *ldc);
+
+/** Unthreaded form of qorl_core_dsyrk(). */
+QORL_CORE_API void qorl_core_xdsyrk(const char *uplo, const char *trans, const int32_t *n, const int32_t *k,
+                                    const double *alpha, const double *a, const int32_t *lda, const double *beta,
+                                    double *c, const int32_t *ldc);
+
+/** Unthreaded form of qorl_core_ssyrk(). */
+QORL_CORE_API void qorl_core_xssyrk(const char *uplo, const char *trans, const int32_t *n, const int32_t *k,
+                                    const float *alpha, const float *a, const int32_t *lda, const float *beta, float *c,
+                                    const int32_t *ldc);
+
+/**
+ * @brief Triangular product in place: B := alpha op(A) B (side "L") or alpha B op(A) (side "R").
+ * @param side   Where the triangular matrix stands.
+ * @param uplo   The triangle of A that is read; the other counts as zero.
+ * @param transa "N" for op(A) = A, "T" for its transpose.
+ * @param diag   "N" when the diagonal is read, "U" when it counts as ones.
+ * @param m,n    B is m by n; A is of order m (side "L") or n (side "R").
+ * @param alpha  Scalar.
+ * @param a,lda  The triangular matrix.
+ * @param b,ldb  The other factor, then the result.
+ */
+QORL_CORE_API void qorl_blas4zet_dtrmm(const char *side, const char *uplo, const char *transa, const char *diag,
+                                       const int32_t *m, const int32_t *n, const double *alpha, const double *a,
+                                       const int32_t *lda, double *b, const int32_t *ldb);
+
+/** Single precision form of qorl_blas4zet_dtrmm(). */
+QORL_CORE_API void qorl_blas4zet_strmm(const char *side, const char *uplo, const char *transa, const char *diag,
+                                       const int32_t *m, const int32_t *n, const float *alpha, const float *a,
+                                       const int32_t *lda, float *b, const int32_t *ldb);
+
+/** Unthreaded form of qorl_blas4zet_dtrmm(). */
+QORL_CORE_API void qorl_blas_xdtrmm_4zet(const char *side, const char *uplo, const char *transa, const char *diag,
+                                         const int32_t *m, const int32_t *n, const double *alpha, const double *a,
+                                         const int32_t *lda, double *b, const int32_t *ldb);
+
+/** Unthreaded form of qorl_blas4zet_strmm(). */
+QORL_CORE_API void qorl_blas_xstrmm_4zet(const char *side, const char *uplo, const char *transa, const char *diag,
+                                         const int32_t *m, const int32_t *n, const float *alpha, const float *a,
+                                         const int32_t *lda, float *b, const int32_t *ldb);
+
+/**
+ * @brief Triangular product in place with a packed matrix: as qorl_blas4zet_dtrmm(), A being packed.
+ * @param side,uplo,transa,diag As there.
+ * @param m,n    B is m by n; A is of order m (side "L") or n (side "R").
+ * @param alpha  Scalar.
+ * @param ap     The triangle, column after column: n(n+1)/2 elements for the order n.
+ * @param b,ldb  The other factor, then the result.
+ *
+ * Takes no memory but the stack, so it cannot fail.
+ */
+QORL_CORE_API void qorl_blas4zet_dptrmm(const char *side, const char *uplo, const char *transa, const char *diag,
+                                        const int32_t *m, const int32_t *n, const double *alpha, const double *ap,
+                                        double *b, const int32_t *ldb);
+
+/** Single precision form of qorl_blas4zet_dptrmm(). */
+QORL_CORE_API void qorl_blas4zet_sptrmm(const char *side, const char *uplo, const char *transa, const char *diag,
+                                        const int32_t *m, const int32_t *n, const float *alpha, const float *ap,
+                                        float *b, const int32_t *ldb);
+
+/**
+ * @brief Cholesky factor: A = U' U (uplo "U") or L L' (uplo "L").
+ * @param uplo  The triangle that is read and written; the other is not touched.
+ * @param n     The order.
+ * @param a,lda The matrix, then the result.
+ * @param info  0, or k > 0 when the leading minor of order k is not positive, or -k for a bad k-th argument.
+ */
+QORL_CORE_API void qorl_core_dpotrf(const char *uplo, const int32_t *n, double *a, const int32_t *lda, int32_t *info);
+
+/** Single precision form of qorl_core_dpotrf(). */
+QORL_CORE_API void qorl_core_spotrf(const char *uplo, const int32_t *n, float *a, const int32_t *lda, int32_t *info);
+
+/**
+ * @brief Inverse of a positive definite matrix from its Cholesky factor.
+ * @param uplo  The triangle that is read and written; the other is not touched.
+ * @param n     The order.
+ * @param a,lda The matrix, then the result.
+ * @param info  0, or k > 0 when the k-th diagonal element of the factor is 0, or -k for a bad k-th argument.
+ */
+QORL_CORE_API void qorl_core_dpotri(const char *uplo, const int32_t *n, double *a, const int32_t *lda, int32_t *info);
+
+/** Single precision form of qorl_core_dpotri(). */
+QORL_CORE_API void qorl_core_spotri(const char *uplo, const int32_t *n, float *a, const int32_t *lda, int32_t *info);
+
+/**
+ * @brief Inverse of a triangular matrix, in place.
+ * @param uplo  The triangle that is read and written; the other is not touched.
+ * @param diag  "N" when the diagonal is read, "U" when it counts as ones.
+ * @param n     The order.
+ * @param a,lda The matrix, then its inverse.
+ * @param info  0, or k > 0 when the k-th diagonal element is 0, or -k for a bad k-th argument.
+ */
+QORL_CORE_API void qorl_core_dtrtri(const char *uplo, const char *diag, const int32_t *n, double *a, const int32_t *lda,
+                                    int32_t *info);
+
+/** Single precision form of qorl_core_dtrtri(). */
+QORL_CORE_API void qorl_core_strtri(const char *uplo, const char *diag, const int32_t *n, float *a, const int32_t *lda,
+                                    int32_t *info);
+
+/**
+ * @brief Eigenvalues, and eigenvectors if wanted, of a symmetric matrix.
+ * @param jobz       "N" for the values alone, "V" for the vectors as well.
+ * @param uplo       The triangle that is read.
+ * @param n          The order.
+ * @param a,lda      The matrix; then the vectors as columns, or for "N" undefined in the triangle read.
+ * @param w          n eigenvalues, ascending.
+ * @param work,lwork Scratch and its size, at least 3n - 1 and 1; with lwork -1 only the best size is stored in work[0].
+ * @param info       0, or k > 0 when the iteration did not converge, or -k for a bad k-th argument.
+ */
+QORL_CORE_API void qorl_core_dsyev(const char *jobz, const char *uplo, const int32_t *n, double *a, const int32_t *lda,
+                                   double *w, double *work, const int32_t *lwork, int32_t *info);
+
+/** Single precision form of qorl_core_dsyev(). */
+QORL_CORE_API void qorl_core_ssyev(const char *jobz, const char *uplo, const int32_t *n, float *a, const int32_t *lda,
+                                   float *w, float *work, const int32_t *lwork, int32_t *info);
+
+/**
+ * @brief Eigenvalues, and eigenvectors if wanted, of a packed symmetric matrix, by divide and conquer.
+ * @param jobz         "N" for the values alone, "V" for the vectors as well.
+ * @param uplo         The triangle that is packed.
+ * @param n            The order.
+ * @param ap           The triangle, column after column, n(n+1)/2 elements; overwritten.
+ * @param w            n eigenvalues, ascending.
+ * @param z,ldz        The vectors as columns; for "N" not touched.
+ * @param work,lwork   Scratch and its size: with "V" at least 1 + 6n + n^2, with "N" at least 2n, for n = 1 at least 1.
+ * @param iwork,liwork Scratch and its size: with "V" at least 3 + 5n, with "N" or n = 1 at least 1. With lwork or
+ * liwork -1 only the sizes are stored, in work[0] and iwork[0].
+ * @param info         0, or k > 0 when the iteration did not converge, or -k for a bad k-th argument.
+ */
+QORL_CORE_API void qorl_core_dspevd(const char *jobz, const char *uplo, const int32_t *n, double *ap, double *w,
+                                    double *z, const int32_t *ldz, double *work, const int32_t *lwork, int32_t *iwork,
+                                    const int32_t *liwork, int32_t *info);
+
+/** Single precision form of qorl_core_dspevd(). */
+QORL_CORE_API void qorl_core_sspevd(const char *jobz, const char *uplo, const int32_t *n, float *ap, float *w, float *z,
+                                    const int32_t *ldz, float *work, const int32_t *lwork, int32_t *iwork,
+                                    const int32_t *liwork, int32_t *info);
+
 #ifdef __cplusplus
 }
 #endif
