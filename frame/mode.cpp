@@ -6,18 +6,6 @@
 namespace qorl {
 namespace {
 
-[[gnu::noinline, gnu::cold]] std::uint32_t initialise(KernelStatus &record) {
-    const std::int64_t wanted = mode_from_environment();
-    std::uint32_t word = wanted < 0 ? mode::initial : static_cast<std::uint32_t>(wanted);
-    if ((word & mode::accuracy_mask) == 0) word |= mode::initial & mode::accuracy_mask;
-    if ((word & mode::error_mask) == 0) word |= mode::error_default;
-    return record.mode = word;
-}
-
-std::uint32_t current(KernelStatus &record) {
-    return record.mode != 0 ? record.mode : initialise(record);
-}
-
 template <class T>
 T exchange(T &place, T value) {
     const T old = place;
@@ -27,8 +15,12 @@ T exchange(T &place, T value) {
 
 }  // namespace
 
-std::uint32_t mode_word() {
-    return current(thread_record());
+[[gnu::cold]] std::uint32_t initialise_mode(KernelStatus &record) {
+    const std::int64_t wanted = mode_from_environment();
+    std::uint32_t word = wanted < 0 ? mode::initial : static_cast<std::uint32_t>(wanted);
+    if ((word & mode::accuracy_mask) == 0) word |= mode::initial & mode::accuracy_mask;
+    if ((word & mode::error_mask) == 0) word |= mode::error_default;
+    return record.mode = word;
 }
 
 }  // namespace qorl
@@ -41,7 +33,7 @@ extern "C" {
 // cleared here. Bits outside the five fields come from the environment only.
 uint32_t qorl_mode_set(uint32_t word) {
     KernelStatus &record = thread_record();
-    const std::uint32_t old = current(record);
+    const std::uint32_t old = mode_word(record);
     std::uint32_t merged = old;
     for (const std::uint32_t field :
          {mode::accuracy_mask, mode::error_mask, mode::denormals_mask, mode::traps_mask, mode::reserved_mask}) {
@@ -76,7 +68,7 @@ QORL_EXPORT int32_t qorl_zet_kernel_ClearErrStatus(void) {
 
 QORL_EXPORT QorlErrorCallBack qorl_zet_kernel_SetErrorCallBack(QorlErrorCallBack callback) {
     KernelStatus &record = thread_record();
-    std::uint32_t word = current(record) & ~mode::error_callback;
+    std::uint32_t word = mode_word(record) & ~mode::error_callback;
     if (callback != nullptr) word |= mode::error_callback;
     const QorlErrorCallBack old = exchange(record.callback, callback);
     qorl_mode_set(word);

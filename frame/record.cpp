@@ -1,8 +1,8 @@
 // Per-thread records: created on first use, freed at thread end by the key's destructor, all freed at unload.
 //
-// A record is reached through a pthread key. Every record is also a member of a list, so that the unload of the library
-// can free those of threads that still run; at process exit nothing is freed, since other threads may be inside
-// kernels.
+// A thread reaches its record through a thread-local pointer; a pthread key with a destructor tells when the thread
+// ends. Every record is also a member of a list, so that the unload of the library can free those of threads that still
+// run; at process exit nothing is freed, since other threads may be inside kernels.
 #include <pthread.h>
 
 #include <cstddef>
@@ -44,6 +44,7 @@ class Guard {
 
 void free_record(void *block) {
     Record *const record = static_cast<Record *>(block);
+    current_record = nullptr;  // a destructor that runs later may use the library again
     {
         const Guard guard;
         (record->previous != nullptr ? record->previous->next : records) = record->next;
@@ -54,9 +55,7 @@ void free_record(void *block) {
 
 bool create_key() {
     const Guard guard;
-    if (!key_exists && pthread_key_create(&key, free_record) == 0) {
-        __atomic_store_n(&key_exists, true, __ATOMIC_RELEASE);
-    }
+    if (!key_exists) key_exists = pthread_key_create(&key, free_record) == 0;
     return key_exists;
 }
 
@@ -76,7 +75,7 @@ KernelStatus *create_record() {
     record->next = records;
     if (records != nullptr) records->previous = record;
     records = record;
-    return &record->status;
+    return current_record = &record->status;
 }
 
 // The storage key and the loading thread's record exist from the start, so that a shortage shows here first. A load
@@ -103,24 +102,17 @@ KernelStatus *create_record() {
     }
 }
 
-[[gnu::noinline, gnu::cold]] KernelStatus &first_use() {
-    if (create_key()) {
-        if (KernelStatus *const status = create_record()) return *status;
-    } else {
-        qorl_serv_print(error_stream, out_of_storage, 0);
-    }
-    qorl_serv_exit(3);
-    __builtin_unreachable();
-}
-
 }  // namespace
 
-KernelStatus &thread_record() {
-    if (__atomic_load_n(&key_exists, __ATOMIC_ACQUIRE)) [[likely]] {
-        if (void *const block = pthread_getspecific(key)) [[likely]]
-            return static_cast<Record *>(block)->status;
-    }
-    return first_use();
+constinit thread_local KernelStatus *current_record [[gnu::tls_model("initial-exec")]] = nullptr;
+
+[[gnu::cold]] KernelStatus &create_thread_record() {
+    if (!create_key())
+        qorl_serv_print(error_stream, out_of_storage, 0);
+    else if (KernelStatus *const status = create_record())
+        return *status;
+    qorl_serv_exit(3);
+    __builtin_unreachable();
 }
 
 }  // namespace qorl
