@@ -15,13 +15,13 @@
 
 void *qorl_serv_allocate(size_t size, size_t alignment) {
     if (!std::has_single_bit(alignment)) return nullptr;
-    // posix_memalign asks for at least a pointer's alignment, and reports by its result, but malloc below it sets
-    // errno.
+    // posix_memalign asks for a pointer's alignment at least, and reports by its result, but malloc below it sets
+    // errno. The C library's own refuses sizes that overflow; one put in its place by the host need not.
     const size_t least = alignment < sizeof(void *) ? sizeof(void *) : alignment;
     if (least > size_t{PTRDIFF_MAX} || size > size_t{PTRDIFF_MAX} - least) return nullptr;
     const int saved_errno = errno;
     void *block = nullptr;
-    // Some C libraries give null for no bytes, which here would read as a failure.
+    // A standard library may give null for no bytes, which here would read as a failure.
     if (posix_memalign(&block, least, size == 0 ? 1 : size) != 0) block = nullptr;
     errno = saved_errno;
     return block;
@@ -32,7 +32,7 @@ void qorl_serv_deallocate(void *block) {
 }
 
 void qorl_serv_lock(int32_t *lock) {
-    // Past this many pauses (about a microsecond) the holder has probably lost its processor, so it is given ours.
+    // Past this many pauses the holder has probably lost its processor, so it is given ours.
     constexpr int pauses_before_yield = 64;
     const std::atomic_ref<int32_t> word(*lock);
     for (int pauses = 0; word.exchange(1, std::memory_order_acquire) != 0;) {

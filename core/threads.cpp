@@ -27,7 +27,8 @@ void run_shares(int64_t shares, Share share) {
         share(int64_t{0});
         return;
     }
-#pragma omp parallel for schedule(static, 1) num_threads(static_cast <int>(shares))
+    const int team = static_cast<int>(shares);
+#pragma omp parallel for schedule(static, 1) num_threads(team)
     for (int64_t s = 0; s < shares; ++s) share(s);
 }
 

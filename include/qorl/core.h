@@ -28,8 +28,8 @@ extern "C" {
  * @brief Allocates a block of memory.
  * @param size      Bytes, 0 included: a block of no usable bytes is still a block.
  * @param alignment A power of two; the block's address is a multiple of it. The project asks for 128 throughout.
- * @return The block, its contents undefined; null when the memory is not there, when the alignment is no power of two,
- *         or when size and alignment together pass PTRDIFF_MAX. `errno` is left as it was.
+ * @return The block, its contents undefined; null when the memory is not there, however large the request, or when the
+ *         alignment is no power of two. `errno` is left as it was.
  *
  * Released by qorl_serv_deallocate() only. Thread safe.
  */

@@ -18,10 +18,12 @@ TYPED_TEST(Blas, GemmMultiplies) {
     const auto at = a.transposed(), bt = b.transposed();
     const auto expected = sum(double{alpha}, product(a, b), double{beta}, c);
     for (const auto gemm : Names<Real>::gemm) {
-        auto plain = c, turned = c;
+        auto plain = c, half = c, turned = c;
         gemm("N", "N", &m, &n, &k, &alpha, a.data(), &a.ld, b.data(), &b.ld, &beta, plain.data(), &plain.ld);
+        gemm("N", "T", &m, &n, &k, &alpha, a.data(), &a.ld, bt.data(), &bt.ld, &beta, half.data(), &half.ld);
         gemm("t", "T", &m, &n, &k, &alpha, at.data(), &at.ld, bt.data(), &bt.ld, &beta, turned.data(), &turned.ld);
         expect_near(plain, expected, k);
+        expect_near(half, expected, k);
         expect_near(turned, expected, k);
     }
 }

@@ -40,6 +40,7 @@ bool blas_shares_openmp() {
 
 TEST(BlasThreads, UnthreadedFormStaysOnItsThread) {
     const auto before = threads_of_process();
+    const int64_t limit = qorl_core_thread_table()->thread_limit();
     EXPECT_TRUE(product_is_right(qorl_core_xdgemm));
     EXPECT_EQ(threads_of_process(), before);
     std::thread([=] {
@@ -47,9 +48,10 @@ TEST(BlasThreads, UnthreadedFormStaysOnItsThread) {
         EXPECT_EQ(threads_of_process(), before + 1);
     }).join();
     // It leaves the wish for threads as it was, and the other form follows that wish.
+    EXPECT_EQ(qorl_core_thread_table()->thread_limit(), limit);
     EXPECT_TRUE(product_is_right(qorl_core_dgemm));
     if (blas_shares_openmp()) {
-        EXPECT_GE(threads_of_process(), qorl_core_thread_table()->thread_limit());
+        EXPECT_GE(threads_of_process(), limit);
     }
 }
 

@@ -1,10 +1,11 @@
 #include <gtest/gtest.h>
+#include <sched.h>
 
+#include <barrier>
 #include <cerrno>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
-#include <numeric>
 #include <string>
 #include <thread>
 #include <vector>
@@ -94,15 +95,20 @@ TEST(Getenv, DeliversWholeValuesOnly) {
 
 TEST(Lock, LetsOneThreadInAtATime) {
     constexpr int threads = 4;
-    constexpr int rounds = 20000;
+    constexpr int rounds = 2000;
     int32_t lock = 0;
     int64_t counter = 0;
+    std::barrier start(threads);
     std::vector<std::thread> team;
     for (int t = 0; t < threads; ++t) {
         team.emplace_back([&] {
+            start.arrive_and_wait();
             for (int i = 0; i < rounds; ++i) {
                 qorl_serv_lock(&lock);
-                counter = counter * 1 + 1;
+                // Others get the processor between reading and writing, and wait long enough to yield it again.
+                const int64_t seen = counter;
+                if (i % 16 == 0) sched_yield();
+                counter = seen + 1;
                 qorl_serv_unlock(&lock);
             }
         });
