@@ -396,7 +396,8 @@ std::string comment_lines(std::string_view words) {
             text += line + "\n";
             line = indent;
         }
-        line += " " + std::string(words.substr(0, end));
+        line += ' ';
+        line += words.substr(0, end);
         words.remove_prefix(std::min(end + 1, words.size()));
     }
     return text + line + "\n";
