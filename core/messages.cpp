@@ -66,26 +66,28 @@ const Message *find(int32_t code, int32_t count) {
 constexpr size_t line_size = 320;
 constexpr int name_limit = 200;
 
-int format(char (&line)[line_size], const Message &message, va_list arguments) {
+// The arguments of a call, those that its message has.
+struct Values {
+    const char *name = nullptr;
+    int32_t index = 0;
+    double value = 0;
+};
+
+int format(char (&line)[line_size], const Message &message, const Values &values) {
+    const char *name = values.name != nullptr ? values.name : "?";
     switch (message.arguments) {
         case Arguments::none:
             return std::snprintf(line, line_size, "qorl: %s\n", message.text);
-        case Arguments::name: {
-            const char *name = va_arg(arguments, const char *);
-            return std::snprintf(line, line_size, "qorl: %.*s: %s\n", name_limit, name ? name : "?", message.text);
-        }
-        case Arguments::name_and_index: {
-            const char *name = va_arg(arguments, const char *);
-            const int32_t index = va_arg(arguments, int32_t);
-            return std::snprintf(line, line_size, "qorl: %.*s: %s, index %d\n", name_limit, name ? name : "?",
-                                 message.text, index);
-        }
+        case Arguments::name:
+            return std::snprintf(line, line_size, "qorl: %.*s: %s\n", name_limit, name, message.text);
+        case Arguments::name_and_index:
+            return std::snprintf(line, line_size, "qorl: %.*s: %s, index %d\n", name_limit, name, message.text,
+                                 values.index);
         case Arguments::index_and_value: {
-            const int32_t index = va_arg(arguments, int32_t);
             // Not by printf, whose digits depend on the locale and on the rounding mode.
-            char value[32];
-            *std::to_chars(value, value + sizeof value - 1, va_arg(arguments, double)).ptr = '\0';
-            return std::snprintf(line, line_size, "qorl:   element %d: %s = %s\n", index, message.text, value);
+            char digits[32];
+            *std::to_chars(digits, digits + sizeof digits - 1, values.value).ptr = '\0';
+            return std::snprintf(line, line_size, "qorl:   element %d: %s = %s\n", values.index, message.text, digits);
         }
     }
     return 0;
@@ -118,10 +120,17 @@ int32_t qorl_serv_print(int32_t destination, int32_t code, int32_t count, ...) {
         length =
             std::snprintf(line, line_size, "qorl: message %d with %d arguments is not in the catalogue\n", code, count);
     } else {
+        const Arguments kind = message->arguments;
+        Values values;
         va_list arguments;
         va_start(arguments, count);
-        length = format(line, *message, arguments);
+        if (kind == Arguments::name || kind == Arguments::name_and_index) values.name = va_arg(arguments, const char *);
+        if (kind == Arguments::name_and_index || kind == Arguments::index_and_value) {
+            values.index = va_arg(arguments, int32_t);
+        }
+        if (kind == Arguments::index_and_value) values.value = va_arg(arguments, double);
         va_end(arguments);
+        length = format(line, *message, values);
     }
     const bool written = length > 0 && write_all(STDERR_FILENO, line, static_cast<size_t>(length));
     errno = saved_errno;

@@ -15,6 +15,7 @@ namespace {
 
 // Large enough that a BLAS library with threads uses them.
 constexpr int32_t order = 300;
+constexpr size_t elements = size_t{order} * order;
 using Gemm = decltype(&qorl_core_dgemm);
 
 auto threads_of_process() {
@@ -23,9 +24,9 @@ auto threads_of_process() {
 
 // A product whose elements are all order * 0.5.
 bool product_is_right(Gemm gemm) {
-    const std::vector<double> a(order * order, 0.5);
-    const std::vector<double> b(order * order, 1.0);
-    std::vector<double> c(order * order);
+    const std::vector<double> a(elements, 0.5);
+    const std::vector<double> b(elements, 1.0);
+    std::vector<double> c(elements);
     const double one = 1;
     const double zero = 0;
     gemm("N", "N", &order, &order, &order, &one, a.data(), &order, b.data(), &order, &zero, c.data(), &order);

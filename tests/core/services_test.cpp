@@ -100,6 +100,7 @@ TEST(Lock, LetsOneThreadInAtATime) {
     int64_t counter = 0;
     std::barrier start(threads);
     std::vector<std::thread> team;
+    team.reserve(threads);
     for (int t = 0; t < threads; ++t) {
         team.emplace_back([&] {
             start.arrive_and_wait();
