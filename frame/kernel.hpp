@@ -243,10 +243,8 @@ template <class K, class Arrays>
                     break;
             arrays.write(i, y);
         }
-        if constexpr (HasSpecialLanes<K>) {
-            if (i + block > n) break;
-            special_block<K, K::packs>(kernel, arrays, i, block, call);
-        }
+        if (i + block > n) break;
+        if constexpr (HasSpecialLanes<K>) special_block<K, K::packs>(kernel, arrays, i, block, call);
     }
     for (; i < n; i += lanes) {
         const std::ptrdiff_t count = n - i < lanes ? n - i : lanes;
