@@ -81,7 +81,8 @@ struct Cost {
 };
 
 inline constexpr Cost costs[] = {
-#define QORL_COST(type, Function, la, ha, ep) Cost{#type[0], #Function, {la, ha, ep}},
+#define QORL_COST(type, Function, la, ha, ep) \
+    Cost{#type[0], #Function, {static_cast<float>(la), static_cast<float>(ha), static_cast<float>(ep)}},
 #include "frame/costs.inc"
 #undef QORL_COST
 };
