@@ -1,5 +1,6 @@
-// Which BLAS calls start threads. A thread that a call starts stays in its library's pool, so counting the process's
-// threads before and after tells it; a case that counts from one needs a process of its own, as ctest gives it.
+// Which BLAS calls start threads. A thread that a call starts stays in its library's pool, so the count of the
+// process's threads before and after tells it. OpenMP also ends threads that the next loop has no use for, hence at
+// most, not equal; in a process of its own, as ctest gives each case, there are none to end.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
@@ -43,10 +44,10 @@ TEST(BlasThreads, UnthreadedFormStaysOnItsThread) {
     const auto before = threads_of_process();
     const int64_t limit = qorl_core_thread_table()->thread_limit();
     EXPECT_TRUE(product_is_right(qorl_core_xdgemm));
-    EXPECT_EQ(threads_of_process(), before);
+    EXPECT_LE(threads_of_process(), before);
     std::thread([=] {
         EXPECT_TRUE(product_is_right(qorl_core_xdgemm));
-        EXPECT_EQ(threads_of_process(), before + 1);
+        EXPECT_LE(threads_of_process(), before + 1);
     }).join();
     // It leaves the wish for threads as it was, and the other form follows that wish.
     EXPECT_EQ(qorl_core_thread_table()->thread_limit(), limit);
@@ -66,7 +67,7 @@ TEST(BlasThreads, BothFormsStayOnTheirThreadInsideALoop) {
         static_cast<int *>(context)[index] = product_is_right(index % 2 == 0 ? qorl_core_dgemm : qorl_core_xdgemm);
     });
     EXPECT_EQ(std::count(right, right + 4, 1), 4);
-    EXPECT_EQ(threads_of_process(), std::max<decltype(before)>(before, 2));
+    EXPECT_LE(threads_of_process(), std::max<decltype(before)>(before, 2));
 }
 
 }  // namespace
