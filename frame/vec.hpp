@@ -7,6 +7,8 @@
 #define QORL_FRAME_VEC_HPP
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <type_traits>
 #include <utility>
 
@@ -220,6 +222,40 @@ QORL_INLINE void lookup_pair(const double *table, Pack<std::int64_t, N> offset, 
         second.v[i] = _mm256_unpackhi_pd(a, b);
     });
 }
+// Rows of neighbouring doubles: the indices go to integer registers once, then every two words of a row cost what
+// lookup_pair costs. `offset` counts bytes, a multiple of 16, from `Bias` bytes ahead of the table: a constant part of
+// the index is free.
+template <int N, std::ptrdiff_t Bias>
+class RowLookup {
+  public:
+    QORL_INLINE RowLookup(const double *table, Pack<std::int64_t, N> offset)
+        : base_(reinterpret_cast<std::uintptr_t>(table) - static_cast<std::uintptr_t>(Bias)) {
+        each_register<N>([&](int i) {
+            const __m128i low = _mm256_castsi256_si128(offset.v[i]), high = _mm256_extracti128_si256(offset.v[i], 1);
+            at_[i] = {static_cast<std::uintptr_t>(_mm_cvtsi128_si64(low)),
+                      static_cast<std::uintptr_t>(_mm_extract_epi64(low, 1)),
+                      static_cast<std::uintptr_t>(_mm_cvtsi128_si64(high)),
+                      static_cast<std::uintptr_t>(_mm_extract_epi64(high, 1))};
+        });
+    }
+    // The words `word` and `word` + 1, `word` even.
+    QORL_INLINE void pair(int word, Pack<double, N> &first, Pack<double, N> &second) const {
+        each_register<N>([&](int i) {
+            const __m256d a = _mm256_insertf128_pd(_mm256_castpd128_pd256(at(i, 0, word)), at(i, 2, word), 1);
+            const __m256d b = _mm256_insertf128_pd(_mm256_castpd128_pd256(at(i, 1, word)), at(i, 3, word), 1);
+            first.v[i] = _mm256_unpacklo_pd(a, b);
+            second.v[i] = _mm256_unpackhi_pd(a, b);
+        });
+    }
+
+  private:
+    QORL_INLINE __m128d at(int i, std::size_t lane, int word) const {
+        return _mm_load_pd(reinterpret_cast<const double *>(base_ + at_[i][lane]) + word);
+    }
+
+    std::uintptr_t base_;
+    std::array<std::uintptr_t, 4> at_[N];
+};
 // One of four floats, by the low two bits of each index; the table is the same in both halves of a register.
 template <int N>
 QORL_INLINE Pack<float, N> lookup4(const std::array<float, 4> &table, Pack<std::int32_t, N> index) {

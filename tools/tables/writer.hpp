@@ -43,6 +43,7 @@ class Real {
     friend Real exp2(const Real &a) { return apply(mpfr_exp2, a); }
     friend Real log(const Real &a) { return apply(mpfr_log, a); }
     friend Real tanh(const Real &a) { return apply(mpfr_tanh, a); }
+    friend Real sqrt(const Real &a) { return apply(mpfr_sqrt, a); }
 
     // The value with the mantissa cut to `bits` bits, to nearest.
     Real rounded_to(int bits) const {
