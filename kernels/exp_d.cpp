@@ -64,7 +64,7 @@ struct Exp : OneResult<double> {
             // 16 n stands in the low bits of u: the byte offset of a pair, and the exponent ten bits up
             const auto u = bits(n + P(0x1.8p48));
             P t, t_lo;
-            lookup_pair(exp2_pairs_64, u & 0x3FF, t, t_lo);
+            lookup_pair(exp2_pairs_64, u & 0x3F0, t, t_lo);
             const P q = fma(r * r, horner(r, exp_ha_poly), r);
             const P result = t + fma(q, t, t_lo);
             return real(bits(result) + (shift_left(u, 42) & std::int64_t(0xFFF0000000000000)));
