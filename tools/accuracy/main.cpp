@@ -27,7 +27,7 @@ struct Arguments {
     std::vector<std::string> functions, types, levels;
     accuracy::Options options;
     bool exhaustive = false, json = false;
-    std::string output, library;
+    std::string output, library, worst;
 };
 
 // A bar on standard error: redrawn in place on a terminal, a line every tenth elsewhere.
@@ -95,6 +95,8 @@ int parse(int argc, char **argv, Arguments &arguments) {
                  "Also run the strided kernels, whose results must have the same bits");
     app.add_option("-o,--output", arguments.output,
                    "Write the accuracy document (Markdown), merged with the file's rows");
+    app.add_option("--worst", arguments.worst, "Folder of found worst cases, such as Exp_d.txt, that are measured too")
+        ->check(CLI::ExistingDirectory);
     app.add_flag("--json", arguments.json, "Print JSON instead of the table");
     app.add_option("--library", arguments.library, "Measure the kernels of this shared library")
         ->check(CLI::ExistingFile);
@@ -151,10 +153,12 @@ int run(const Arguments &arguments) {
             exhaustive = false;
         }
         Bar bar(name, exhaustive || isatty(STDERR_FILENO) == 1);
+        accuracy::Options options = arguments.options;
+        if (!arguments.worst.empty())
+            options.extra = accuracy::read_points(arguments.worst + "/" + accuracy::worst_file(function));
         const auto progress = [&](double share) { bar.show(share); };
-        const accuracy::Measurement measurement =
-            exhaustive ? accuracy::exhaust(*library, function, arguments.options, progress)
-                       : accuracy::sample(*library, function, arguments.options, progress);
+        const accuracy::Measurement measurement = exhaustive ? accuracy::exhaust(*library, function, options, progress)
+                                                             : accuracy::sample(*library, function, options, progress);
         if (exhaustive) {
             fmt::print(stderr, "{}: filter within {:.2g} ulp of the exact value at {} points\n", name,
                        measurement.filter_error, measurement.filter_points);

@@ -4,12 +4,15 @@
 #include <atomic>
 #include <bit>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <deque>
 #include <exception>
+#include <fstream>
 #include <mutex>
 #include <random>
 #include <span>
+#include <stdexcept>
 #include <thread>
 
 #include "tools/reference/error.hpp"
@@ -121,7 +124,13 @@ Measurement sample_type(const Library &library, const Function &function, const 
     const Slots slots(library, function);
     const auto formulas = reference::formulas_of(*slots.unit);
     const reference::Sampler<T> sampler(*slots.unit, options.seed);
-    const auto clusters = sampler.clusters();
+    auto clusters = sampler.clusters();
+    const bool scalar = slots.unit->shape == Shape::array_scalar || slots.unit->shape == Shape::unary_param;
+    for (std::size_t i = 0; i < options.extra.size(); ++i) {  // a scalar argument is one for a whole batch
+        if (i == 0 || scalar) clusters.emplace_back();
+        clusters.back().a.push_back(static_cast<T>(options.extra[i][0]));
+        clusters.back().b.push_back(static_cast<T>(options.extra[i][1]));
+    }
     constexpr std::uint64_t size = 4096;
     const std::uint64_t random = (options.points + size - 1) / size;
     const std::uint64_t count = clusters.size() + random;
@@ -221,6 +230,31 @@ void Tally::take(const Tally &other) {
     points += other.points;
     unlike += other.unlike;
     unlike_at.take(other.unlike_at);
+}
+
+std::vector<std::array<double, 2>> read_points(const std::string &file) {
+    std::vector<std::array<double, 2>> points;
+    std::ifstream in(file);
+    for (std::string line; std::getline(in, line);) {
+        const char *text = line.c_str();
+        std::array<double, 2> point = {};
+        std::size_t count = 0;
+        for (;; ++count) {
+            while (*text == ' ' || *text == '\t' || *text == '\r') ++text;
+            if (*text == '\0' || *text == '#') break;
+            char *end = nullptr;
+            const double value = std::strtod(text, &end);
+            if (end == text || count == point.size()) throw std::runtime_error(file + ": no point: " + line);
+            point[count] = value;
+            text = end;
+        }
+        if (count != 0) points.push_back(point);
+    }
+    return points;
+}
+
+std::string worst_file(const Function &function) {
+    return std::string(function.name) + "_" + function.type + ".txt";
 }
 
 std::string_view obstacle(const Library &library, const Function &function, bool exhaustive) {

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -17,6 +18,7 @@ struct Options {
     std::uint64_t points = 1'000'000;  // of a sampled measurement, besides the clusters
     std::uint64_t seed = 1;
     unsigned threads = 1;
+    std::vector<std::array<double, 2>> extra = {};  // more points for a sampled measurement
     bool strided = false;  // also run the strided kernels and count the elements whose bits differ
 };
 
@@ -55,6 +57,13 @@ struct Measurement {
     double filter_error = 0;
     std::uint64_t filter_points = 0;
 };
+
+// The points of a list of found worst cases: a point a line, arguments in hexadecimal, comments after #. Throws
+// std::runtime_error on a line that is no point. A file that is not there is an empty list.
+std::vector<std::array<double, 2>> read_points(const std::string &file);
+
+// The name of a function's list of found worst cases, as Exp_d.txt.
+std::string worst_file(const Function &function);
 
 // Why a function can't be measured, or an empty string.
 std::string_view obstacle(const reference::Library &library, const Function &function, bool exhaustive);

@@ -39,7 +39,7 @@ std::string up(double x, int decimals) {
 
 std::string worst_text(const Row &row) {
     if (row.level != Level::EP) return up(row.worst, 4);
-    return std::isinf(row.bits) && row.bits > 0 ? "exact" : fmt::format("2^-{:.2f}", std::floor(row.bits * 100) / 100);
+    return std::isinf(row.bits) && row.bits > 0 ? "exact" : fmt::format("2^{:.2f}", std::ceil(row.bits * -100) / 100);
 }
 
 // The order of the document: as in the list of functions, then by level.

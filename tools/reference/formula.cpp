@@ -304,8 +304,8 @@ double error_floor(const Formula &formula, double a) {
             return 0;
         case Floor::constant:
             return 0.25;
-        case Floor::amplitude:  // of the oscillation, sqrt(2 / (pi x)); small arguments do not oscillate
-            return std::fabs(a) < 1 ? 0 : 0.25 * std::sqrt(2 / (std::numbers::pi * std::fabs(a)));
+        case Floor::amplitude:  // of the oscillation, sqrt(2 / (pi x)); the first zero, of Y0, is at 0.89
+            return std::fabs(a) < 0.5 ? 0 : 0.25 * std::sqrt(2 / (std::numbers::pi * std::fabs(a)));
     }
     return 0;
 }
