@@ -40,7 +40,7 @@ Run hardware_loop(char type, std::string_view function);
 
 // The loop over Highway's function of that C name, null if there is none (peers_highway.cpp).
 Run highway_loop(char type, std::string_view c_name);
-std::string highway_version();
+const char *highway_version();
 
 }  // namespace qorl::bench
 

@@ -51,8 +51,10 @@ Run highway_loop(char type, std::string_view c_name) {
     return type == 's' ? loop_of<float>(c_name) : loop_of<double>(c_name);
 }
 
-std::string highway_version() {
-    return std::to_string(HWY_MAJOR) + "." + std::to_string(HWY_MINOR) + "." + std::to_string(HWY_PATCH);
+#define QORL_TEXT_OF(x) #x
+#define QORL_TEXT(x) QORL_TEXT_OF(x)
+const char *highway_version() {
+    return QORL_TEXT(HWY_MAJOR) "." QORL_TEXT(HWY_MINOR) "." QORL_TEXT(HWY_PATCH);
 }
 
 }  // namespace qorl::bench
