@@ -34,7 +34,7 @@ step() {
         printf 'done (%d s)\n' $((SECONDS - start))
     else
         printf 'failed after %d s; the end of %s:\n' $((SECONDS - start)) "$log"
-        grep -v -E '^ *(Start +[0-9]+:|[0-9]+/[0-9]+ Test .* Passed )' "$log" | tail -n 60
+        grep -v -E '^ *(Start +[0-9]+:|[0-9]+/[0-9]+ Test .* Passed )' "$log" | tail -n 60 || true
         die "$title failed; see $log"
     fi
 }
