@@ -1,9 +1,11 @@
-// Polynomials by name of scheme, unrolled at compile time; coefficients lowest order first.
+// Polynomials by name of scheme, unrolled at compile time; coefficients lowest order first. The argument is a pack or a
+// scalar.
 #ifndef QORL_FRAME_POLY_HPP
 #define QORL_FRAME_POLY_HPP
 
 #include <array>
 #include <bit>
+#include <cmath>
 #include <cstddef>
 
 #include "frame/vec.hpp"
@@ -11,6 +13,8 @@
 namespace qorl {
 
 namespace detail {
+using std::fma;  // for scalars; that of packs is found by its arguments
+
 template <std::size_t Low, std::size_t High, class P, class T, std::size_t Count>
 QORL_INLINE P horner_range(P x, const std::array<T, Count> &c) {
     if constexpr (Low == High)
