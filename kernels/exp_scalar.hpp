@@ -1,6 +1,6 @@
 // e^x for one double outside the range of the vector bodies: results next to overflow, denormal results, and the rest.
 //
-// Method   x = (64 k + j) ln2/64 + r, |r| <= ln2/128; e^x = 2^k (T + T (q(r) + Tlo)), T + Tlo = 2^(j/64) to 105 bits,
+// Method   x = (64 k + j) ln2/64 + r, |r| <= ln2/128; e^x = 2^k (T + (T q(r) + Tlo)), T + Tlo = 2^(j/64) to 105 bits,
 //          q of degree 6.
 // Error    0.51 ulp, denormal results included: they are formed with 2^60 times their size and in two words where the
 //          last rounding would otherwise come twice.
@@ -17,7 +17,7 @@
 
 namespace qorl {
 
-// e^x = 2^k (t + t (q + t_lo)).
+// e^x = 2^k (t + (t q + t_lo)).
 struct ExpParts {
     double t, t_lo, q;
     std::int64_t k;
@@ -39,9 +39,9 @@ inline double power_of_two(std::int64_t k) {  // for a normal result
     return std::bit_cast<double>((k + 1023) << 52);
 }
 
-// 2^k (t + t (q + t_lo)) for a result up to the very top of the range.
+// 2^k (t + (t q + t_lo)) for a result up to the very top of the range.
 inline double assemble(const ExpParts &e) {
-    const double z = std::fma(e.t, e.q + e.t_lo, e.t);
+    const double z = e.t + std::fma(e.t, e.q, e.t_lo);
     if (e.k < 1024) return z * power_of_two(e.k);
     return z * 0x1p1023 + z * 0x1p1023;
 }
@@ -49,7 +49,7 @@ inline double assemble(const ExpParts &e) {
 // The same for a denormal result, rounded once at its final scale.
 inline double assemble_denormal(const ExpParts &e) {
     const double scale = power_of_two(e.k + 60);
-    const double high = e.t * scale, low = e.t * (e.q + e.t_lo) * scale;
+    const double high = e.t * scale, low = std::fma(e.t, e.q, e.t_lo) * scale;
     const double v = high + low;
     if (e.k + 1083 <= 50) return v * 0x1p-60;  // few bits are left: the second rounding is far below them
     constexpr double splitter = 0x1.8p32;
