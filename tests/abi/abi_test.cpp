@@ -17,6 +17,7 @@
 #include "elf_symbols.hpp"
 #include "frame/entries.hpp"
 #include "qorl/zet.h"
+#include "stream_names.hpp"
 
 namespace {
 
@@ -97,6 +98,8 @@ std::vector<std::set<std::string>> expected_functions() {
         }
     }
     for (const std::string_view name : queries) groups.push_back({std::string(name)});
+    for (const std::string_view name : qorl::stream_functions) groups.push_back({std::string(name)});
+    for (const std::string &name : qorl::generator_functions()) groups.push_back({name});
     for (const Entry &entry : qorl::entries) {
         if (!stands(entry)) continue;
         for (const Level level : levels) {
@@ -112,6 +115,7 @@ TEST(Abi, ExportsTheListedNamesAndNothingElse) {
     for (const auto &group : expected_functions()) expected.insert(group.begin(), group.end());
     for (const Entry &entry : qorl::entries)
         for (const std::string_view kind : {"_ttab", "_ctab"}) expected.insert(table_name(entry, kind));
+    for (const std::string_view name : qorl::stream_tables) expected.insert(std::string(name));
 
     for (const std::string &name : expected) EXPECT_EQ(library().symbols.count(name), 1u) << name << " is missing";
     for (const auto &[name, symbol] : library().symbols)

@@ -1,0 +1,36 @@
+// The exported names of the random streams. The functions of the generators follow from streams/generators.inc.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace qorl {
+
+inline constexpr std::string_view stream_tables[] = {"__RegBrngs", "__RegBrngsNew"};
+
+inline constexpr std::string_view stream_functions[] = {
+    // registry
+    "__huxGetBrngBaseOffset",
+    "__huxIsBrngValid",
+    "__huxGetBrngProperties",
+    "__huxGetNumRegBrngs",
+    "__huxRegisterBrng",
+    // processor
+    "__huxCPUisAES",
+    "__huxCPUisVAES",
+};
+
+inline std::vector<std::string> generator_functions() {
+    std::vector<std::string> names;
+    const auto add = [&names](const std::string &name) {
+        names.push_back("__huxBRng" + name + "InitStream");
+        for (const char *type : {"s", "d", "i"}) names.push_back(std::string("__hux") + type + "BRng" + name);
+    };
+#define QORL_GENERATOR(row, name, members, state, seed, zero, word, bits, landed) \
+    if (landed != 0) add(#name);
+#include "streams/generators.inc"
+    return names;
+}
+
+}  // namespace qorl
