@@ -46,10 +46,10 @@ struct Library {
     Library &operator=(const Library &) = delete;
 
     template <class F>
-    F *function(const char *name, F *) const {
+    F *function(const char *name) const {
         return reinterpret_cast<F *>(dlsym(handle, name));
     }
-    std::uint32_t set_mode(std::uint32_t word) const { return function("_zetSetMode", _zetSetMode)(word); }
+    std::uint32_t set_mode(std::uint32_t word) const { return function<decltype(_zetSetMode)>("_zetSetMode")(word); }
 };
 
 TEST(Record, BelongsToTheThreadAndGoesWithIt) {
@@ -146,7 +146,7 @@ TEST(RecordDeathTest, ProcessMayExitWhileThreadsAreInsideKernels) {
         static const Library &library = *new Library;  // stays loaded
         static std::latch running(3);
         const auto work = [] {
-            const auto exp = library.function("_zetdExp", _zetdExp);
+            const auto exp = library.function<decltype(_zetdExp)>("_zetdExp");
             std::vector<double> x(1000, 1000.0), y(1000);
             for (bool first = true;; first = false) {
                 exp(1000, x.data(), y.data());
