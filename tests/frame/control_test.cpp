@@ -260,6 +260,12 @@ unsigned char upper_halves[16][16];
         ".endr" ::"r"(upper_halves)
         : "memory");
 }
+// The compiler puts the instructions that clear them; it does so when it optimises.
+#ifdef __OPTIMIZE__
+constexpr bool compiler_clears_upper_halves = true;
+#else
+constexpr bool compiler_clears_upper_halves = false;
+#endif
 bool upper_halves_are_clear() {
     for (const auto &half : upper_halves)
         for (const unsigned char byte : half)
@@ -289,7 +295,7 @@ TEST(Control, CallBackRunsInTheKernelsStateWithUpperHalvesClear) {
                     call(*qorl::find_entry('d', "Exp"), qorl::Level::LA, 23, arguments);
                     if (only == 99) store_upper_halves();
                 });
-                EXPECT_TRUE(upper_halves_are_clear());
+                EXPECT_TRUE(!compiler_clears_upper_halves || upper_halves_are_clear());
                 EXPECT_EQ(mxcsr_in_call_back & control, only == 99 ? 0 : flush ? flushing_mxcsr : initial_mxcsr);
             }
         });
