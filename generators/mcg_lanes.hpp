@@ -3,7 +3,8 @@
 // With x the next number and a the multiplier of the stream, lane k holds x a^k, and row j of the powers holds
 // a^(4(j+1)) in each of its four lanes, all reduced. The record is saved as it is, so its layout is fixed. From a saved
 // one only lane 0 is taken; the rest follows from it and the multiplier (rebuild_lanes).
-#pragma once
+#ifndef QORL_GENERATORS_MCG_LANES_HPP
+#define QORL_GENERATORS_MCG_LANES_HPP
 
 #include <cstddef>
 #include <cstdint>
@@ -63,3 +64,5 @@ constexpr void rebuild_lanes(McgLanes &record, std::uint64_t x, std::uint64_t a)
 }
 
 }  // namespace qorl
+
+#endif

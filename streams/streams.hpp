@@ -2,7 +2,8 @@
 //
 // A state may have been read from a file, so it is data from outside: a generator that uses a word of it as an index or
 // a count brings the word into its range at the entry of a call, and one that keeps a chunk checks the chunk's size.
-#pragma once
+#ifndef QORL_STREAMS_STREAMS_HPP
+#define QORL_STREAMS_STREAMS_HPP
 
 #include <algorithm>
 #include <cstddef>
@@ -106,3 +107,5 @@ void *share(std::uint64_t (&key)[2], void *data, std::int32_t size);
 bool is_shared(const std::uint64_t (&key)[2]);
 
 }  // namespace qorl
+
+#endif

@@ -1,5 +1,6 @@
 // The exported names of the random streams. The functions of the generators follow from streams/generators.inc.
-#pragma once
+#ifndef QORL_TESTS_ABI_STREAM_NAMES_HPP
+#define QORL_TESTS_ABI_STREAM_NAMES_HPP
 
 #include <string>
 #include <string_view>
@@ -16,6 +17,37 @@ inline constexpr std::string_view stream_functions[] = {
     "__huxGetBrngProperties",
     "__huxGetNumRegBrngs",
     "__huxRegisterBrng",
+    // streams
+    "__huxNewStreamEx",
+    "__huxAllocateStream",
+    "__huxiNewAbstractStream",
+    "__huxdNewAbstractStream",
+    "__huxsNewAbstractStream",
+    "__huxLeapfrogStream",
+    "__huxSkipAheadStream",
+    "__huxSkipAheadStreamEx",
+    "__huxDeleteStream",
+    "__huxCopyStream",
+    "__huxCopyStreamState",
+    "__huxGetStreamStateBrng",
+    "__huxGetStreamSize",
+    // saving
+    "__huxSaveStreamF",
+    "__huxLoadStreamF",
+    "__huxSaveStreamM",
+    "__huxLoadStreamM",
+    // chunks and shared data
+    "__huxAddChunk",
+    "__huxSearchChunk",
+    "__huxGetNumChunks",
+    "__huxDeleteChunksById",
+    "__huxDeleteChunks",
+    "__huxCopyChunks",
+    "__huxFindGlobRODataTableEntry",
+    "__huxCreateGlobRODataTableEntry",
+    "__huxRegisterGlobRODataReference",
+    "__huxUnregisterGlobRODataReference",
+    "__huxGenerateNewGlobalRODataTableEntryId",
     // processor
     "__huxCPUisAES",
     "__huxCPUisVAES",
@@ -34,3 +66,5 @@ inline std::vector<std::string> generator_functions() {
 }
 
 }  // namespace qorl
+
+#endif
