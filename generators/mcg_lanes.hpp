@@ -20,6 +20,7 @@ struct alignas(32) McgLanes {
     std::uint8_t unset[28];
     std::uint64_t lanes[4];
     std::uint64_t powers[8][4];
+    std::uint8_t unset_end[32];  // like the first, a part of the saved size without a meaning; new records hold zeros
 };
 static_assert(sizeof(McgLanes) == 352 && offsetof(McgLanes, lanes) == 32 && offsetof(McgLanes, powers) == 64);
 
