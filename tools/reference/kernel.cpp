@@ -73,8 +73,8 @@ std::vector<std::vector<T>> run(const Entry &entry, void *kernel, std::span<cons
         if (!z.empty()) results.push_back(std::move(z));
         return results;
     }
-    const std::vector<T> as = spread(a, 2), bs = spread(b, 5);
-    std::vector<T> y(size * 3 + 1), z(size * 4 + 1);
+    const std::vector<T> as = spread(a, 2), bs = entry.shape == Shape::binary ? spread(b, 5) : std::vector<T>();
+    std::vector<T> y(size * 3 + 1), z(entry.shape == Shape::two_results ? size * 4 + 1 : 0);
     switch (entry.shape) {
         case Shape::unary:
             reinterpret_cast<void (*)(std::int32_t, const T *, std::int32_t, T *, std::int32_t)>(kernel)(
