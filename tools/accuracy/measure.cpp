@@ -158,8 +158,8 @@ Measurement sample_type(const Library &library, const Function &function, const 
 
 // The defined points of some consecutive inputs with what judging results there needs.
 struct Block {
-    static constexpr std::size_t capacity =
-        1 << 12;                   // the arrays stay in the second-level cache, and off the mapping allocator
+    // The arrays stay in the second-level cache, and below the size at which the allocator maps pages for each.
+    static constexpr std::size_t capacity = 1 << 12;
     std::vector<float> x, zero;    // zero stands for the second argument
     std::vector<double> value;     // by the filter
     std::vector<double> per_unit;  // 1 / unit in the last place of the rounded value
