@@ -119,7 +119,7 @@ void Heat::evaluate(const Clock &clock) {
     }
     for (Entrant &one : entrants_) {
         if (!one.ours) continue;
-        evaluate_ratio(one);
+        evaluate_ratios(one, entrants_);
         if (one.kind != Kind::call) continue;
         for (const Entrant &full : entrants_)
             if (full.kind == Kind::full && full.owner == one.owner)
@@ -127,9 +127,9 @@ void Heat::evaluate(const Clock &clock) {
     }
 }
 
-void Heat::evaluate_ratio(Entrant &ours) const {
+void evaluate_ratios(Entrant &ours, const std::vector<Entrant> &entrants) {
     const Entrant *fastest = nullptr, *fastest_any = nullptr;
-    for (const Entrant &peer : entrants_) {
+    for (const Entrant &peer : entrants) {
         if (peer.ours || peer.kind != ours.kind) continue;
         if (fastest_any == nullptr || peer.clocks < fastest_any->clocks) fastest_any = &peer;
         const bool more_accurate = printed(peer.ulp) < printed(ours.ulp);  // false where an error is not known

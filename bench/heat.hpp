@@ -43,6 +43,9 @@ struct Entrant {
     std::string rival_any;  // the peer of `ratio_any`
 };
 
+// Sets the ratios and rivals of an entrant of ours by the times and errors of the peers in the same kind of call.
+void evaluate_ratios(Entrant &ours, const std::vector<Entrant> &entrants);
+
 struct HeatOptions {
     bool peers = true;
     bool calls = true;    // n = 8 as well
@@ -72,7 +75,6 @@ class Heat {
 
   private:
     void add(std::string owner, bool ours, Level level, Kind kind, int stride, Run run, void *target);
-    void evaluate_ratio(Entrant &ours) const;
 
     const Subject &subject_;
     const Entry &entry_;

@@ -166,8 +166,9 @@ class Summary {
                 separator = "; ";
             }
         return text +
-               ". `sleef_u10` is the variant with the bound 1.0 ulp, and so on; `hardware` is a plain loop\n"
-               "  over the AVX2 instructions that compute the function by themselves; `libm` is scalar.\n"
+               ".\n  `sleef_u10` is the variant with the bound 1.0 ulp, and so on; `hardware` is a plain loop over the "
+               "AVX2\n"
+               "  instructions that compute the function by themselves; `libm` is scalar.\n"
                "- Method: all contestants of the run take turns on one processor; each keeps the minimum of many short "
                "runs "
                "spread\n  over seconds. Core clocks are calibrated by a chain of dependent integer adds in the same "

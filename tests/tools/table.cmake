@@ -1,0 +1,27 @@
+# Runs accuracy, bench_vector_math and summary in their shortest form, as quickstart does, and looks at the table: each
+# level of Abs has an error from the accuracy program and a ratio from the benchmark. Times are not judged.
+file(MAKE_DIRECTORY ${SCRATCH})
+function(run)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE errors)
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "${ARGN} returned ${result}\n${output}${errors}")
+    endif()
+    set(output "${output}" PARENT_SCOPE)
+endfunction()
+
+run(${ACCURACY} --function Abs --points 1000 --json)
+file(WRITE ${SCRATCH}/accuracy.json "${output}")
+run(${BENCH} --benchmark_filter=^abs/ --passes 1 --rounds 1 --seconds 0 --points 100
+    --benchmark_out=${SCRATCH}/speed.json)
+run(${SUMMARY} --accuracy ${SCRATCH}/accuracy.json --speed ${SCRATCH}/speed.json --output ${SCRATCH}/performance.md)
+file(READ ${SCRATCH}/performance.md document)
+foreach(type s d)
+    foreach(level LA HA EP)
+        if(NOT output MATCHES "Abs +${type} +${level} +(0\\.000 ulp|exact) +[0-9.]+ +[0-9.]+  [a-z]")
+            message(FATAL_ERROR "no figures of Abs ${type} ${level} in\n${output}")
+        endif()
+        if(NOT document MATCHES "\\| Abs \\| ${type} \\| ${level} \\| [0-9.]+ \\| [0-9.]+ \\| [0-9.]+ \\| 0\\.00 \\|")
+            message(FATAL_ERROR "no figures of Abs ${type} ${level} in\n${document}")
+        endif()
+    endforeach()
+endforeach()
