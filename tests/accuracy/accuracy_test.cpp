@@ -23,7 +23,9 @@
 
 namespace qorl {
 
-void PrintTo(const Function &function, std::ostream *out) { *out << function.type << function.name; }  // for the names
+void PrintTo(const Function &function, std::ostream *out) {
+    *out << function.type << function.name;
+}  // for the names
 
 namespace {
 
