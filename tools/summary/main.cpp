@@ -284,7 +284,7 @@ int main(int argc, char **argv) {
         const Summary summary(read(speed), accuracy.empty() ? json::array() : read(accuracy));
         fmt::print("{}", summary.table());
         if (const int slower = summary.slower(); slower > 0)
-            fmt::print("{} of the rows are slower than their fastest peer.\n", slower);
+            fmt::print("Rows slower than the peer they are compared with: {}.\n", slower);
         if (!output.empty()) {
             std::ofstream out(output);
             out << summary.document();
