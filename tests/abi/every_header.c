@@ -1,7 +1,6 @@
 /* The public headers are plain C11; compiled with -pedantic, this file needs no more than to include them. */
 #include <qorl/core.h>
 #include <qorl/hux.h>
-#include <qorl/hux.h>
 #include <qorl/zet.h>
 #include <qorl/zet_tables.h>
 
