@@ -4,6 +4,8 @@
 // before that of a library.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
+#include <pthread.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <cstdint>
@@ -19,7 +21,7 @@
 namespace {
 
 std::atomic<int> live = 0, allocations = 0;
-std::atomic<bool> exhausted = false;
+std::atomic<bool> exhausted = false, nothing_may_be_freed = false;
 
 }  // namespace
 
@@ -30,6 +32,7 @@ void *qorl_serv_allocate(size_t size, size_t alignment) {
     return std::aligned_alloc(alignment, (size + alignment - 1) / alignment * alignment);
 }
 void qorl_serv_deallocate(void *block) {
+    if (nothing_may_be_freed) _exit(9);
     --live;
     std::free(block);
 }
@@ -155,9 +158,10 @@ TEST(RecordDeathTest, ProcessMayExitWhileThreadsAreInsideKernels) {
         };
         for (int i = 0; i < 3; ++i) std::thread(work).detach();
         running.wait();
+        nothing_may_be_freed = true;  // the threads still read their records
         std::exit(0);
     };
-    for (int i = 0; i < 5; ++i) EXPECT_EXIT(exit_meanwhile(), testing::ExitedWithCode(0), "^$");
+    EXPECT_EXIT(exit_meanwhile(), testing::ExitedWithCode(0), "^$");
 }
 
 }  // namespace
