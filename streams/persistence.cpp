@@ -44,10 +44,11 @@ struct OldHeadRest {
 constexpr std::size_t head_begin = 8;
 static_assert(head_begin + sizeof(OldHeadRest) == 20);
 
-// Sinks and sources tell whether all the bytes were there; the sources also how they call the faults of a head.
+// Sinks and sources tell whether all the bytes were there; the sources also how they call the faults of a head. Writing
+// no bytes to a file counts as a failure, as the C library counts the items it has written.
 struct FileSink {
     std::FILE *file;
-    bool write(const void *from, std::size_t bytes) { return std::fwrite(from, bytes, 1, file) == 1; }
+    bool write(const void *from, std::size_t bytes) { return bytes != 0 && std::fwrite(from, bytes, 1, file) == 1; }
 };
 
 struct FileSource {
