@@ -4,9 +4,9 @@
 //          centre c: the width grows with 1 + |x| as the distance of the poles does. r = |x| - c is exact. LA, EP:
 //          t + r p(r), t = tanh c in one word, p of degree 6. HA: t in two words, p of degree 7; for |x| below 0.36,
 //          where r is no small part of the result, the leading word is |x| itself and the row holds tanh x - x.
-// Range    all x. From 19.25 on the row is exactly 1. |x| is cut off there: in the index with NaN going to the last row,
-//          in r with NaN staying NaN, so that no lane is special. The sign of x is put back last: tanh is odd bit for
-//          bit, and tanh x = x where |x| is tiny. Nothing is raised.
+// Range    all x. From 19.25 on the row is exactly 1. |x| is cut off there: in the index with NaN going to the last
+//          row, in r with NaN staying NaN, so that no lane is special. The sign of x is put back last: tanh is odd bit
+//          for bit, and tanh x = x where |x| is tiny. Nothing is raised.
 // Error    HA 0.5 ulp of the last addition + 2^-4.5 times the roundings of a sum that small + 2^-5.5 of the polynomial;
 //          LA half an ulp each for t and the last fma, t being up to twice the result, and 2^-53.2 of the polynomial.
 //          Degrees and rows are fitted anew for these bounds.

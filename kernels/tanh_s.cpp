@@ -5,9 +5,8 @@
 //          |x| as the distance of the poles does; c0 + r (c1 + ...), r = |x| - centre exact. The centres are chosen
 //          so that c0 is all but a float. LA: degree 6. HA: degree 8, c1 all but a float too, and c0 + c1 r in two
 //          words. EP: the exponent and two bits of 1 + 0.70 |x|, and x times a polynomial of degree 2 in |x|.
-// Range    all x. |x| is cut off at 9.125 (EP 4.25), where the polynomials give 1 exactly; NaN passes through, so that
-// no
-//          lane is special. HA, LA: the sign of x is put back last. tanh is odd bit for bit, and at HA and LA
+// Range    all x. |x| is cut off at 9.125 (EP 4.25), where the polynomials give 1 exactly; NaN passes through: no lane
+//          is special. HA, LA: the sign of x is put back last. tanh is odd bit for bit, and at HA and LA
 //          tanh x = x where |x| is tiny. Nothing is raised.
 // Error    HA 0.5 ulp of the last addition + the rounding of r^2 (c2 + ...), at most a tenth of the result; LA 2^-23.5
 //          of the polynomials and the roundings of p and the last fma; EP 2^-11.26, the distance from 1 at the end.
@@ -15,9 +14,9 @@
 // Source   S. Gal, B. Bachelis, An accurate elementary mathematical library for the IEEE floating point standard, ACM
 //          TOMS 17(1), 1991, for the centres; the error of a fused operation by two more: S. Boldo, J.-M. Muller, Exact
 //          and approximated error of the FMA, IEEE Trans. Computers 60(2), 2011.
-#include "kernels/tables/tanh_s.hpp"
 #include "frame/entry_points.hpp"
 #include "frame/poly.hpp"
+#include "kernels/tables/tanh_s.hpp"
 
 namespace qorl {
 namespace {
