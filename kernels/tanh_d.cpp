@@ -12,9 +12,9 @@
 //          Degrees and rows are fitted anew for these bounds.
 // Source   the division of the line by the leading bits of a shifted argument: P. T. P. Tang, Table-lookup algorithms
 //          for elementary functions and their error analysis, Proc. 10th IEEE Symposium on Computer Arithmetic, 1991.
+#include "kernels/tables/tanh_d.hpp"
 #include "frame/entry_points.hpp"
 #include "frame/poly.hpp"
-#include "kernels/tables/tanh_d.hpp"
 
 namespace qorl {
 namespace {

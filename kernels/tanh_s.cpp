@@ -14,9 +14,9 @@
 // Source   S. Gal, B. Bachelis, An accurate elementary mathematical library for the IEEE floating point standard, ACM
 //          TOMS 17(1), 1991, for the centres; the error of a fused operation by two more: S. Boldo, J.-M. Muller, Exact
 //          and approximated error of the FMA, IEEE Trans. Computers 60(2), 2011.
+#include "kernels/tables/tanh_s.hpp"
 #include "frame/entry_points.hpp"
 #include "frame/poly.hpp"
-#include "kernels/tables/tanh_s.hpp"
 
 namespace qorl {
 namespace {
