@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
 #include <limits>
 #include <random>
 #include <string>
@@ -115,7 +114,7 @@ class Identity {
 
   private:
     void check(const Entry &entry, std::int32_t n, const Strides &s, bool at_end) {
-        constexpr unsigned char untouched = 0xA5;
+        const T untouched = from_bits<T>(static_cast<BitsOf<T>>(0xA5A5A5A5A5A5A5A5));
         const Placed<T> a(memory_[0], at_end, n, s.a), b(memory_[1], at_end, n, s.b);
         const Placed<T> y(memory_[2], at_end, n, s.y), z(memory_[3], at_end, n, s.z);
         for (std::ptrdiff_t i = n - 1; i >= 0; --i) {  // with stride 0 the element is that of i = 0
@@ -123,12 +122,11 @@ class Identity {
             b[i] = b_[index(i)];
         }
         const Placed<T> out[] = {y, z};
-        for (const auto &o : out) std::memset(static_cast<void *>(o.low), untouched, o.span * sizeof(T));
+        for (const auto &o : out) std::fill_n(o.low, o.span, untouched);
         call(entry, level_, n, Arguments<T>{{a.first, b.first}, {y.first, z.first}, {s.a, s.b}, {s.y, s.z}});
 
         for (int k = 0; k < outputs(entry.shape); ++k) {
-            std::vector<T> expected(out[k].span);
-            std::memset(expected.data(), untouched, expected.size() * sizeof(T));
+            std::vector<T> expected(out[k].span, untouched);
             for (std::ptrdiff_t i = 0; i < n; ++i)
                 expected[static_cast<std::size_t>(&out[k][i] - out[k].low)] = result(k, entry, s, i);
             for (std::size_t j = 0; j < expected.size(); ++j) {
