@@ -129,7 +129,7 @@ void raise(std::int32_t status, std::int32_t index, ArrayView<const Element> a, 
         // A front end that cuts an array into pieces wants indices into the whole array.
         const std::ptrdiff_t bytes =
             reinterpret_cast<const char *>(a.start) - static_cast<const char *>(thread.interfInputVector);
-        record.index += static_cast<std::int32_t>(bytes / static_cast<std::ptrdiff_t>(sizeof(Element)));
+        record.index = static_cast<std::int32_t>(index + bytes / static_cast<std::ptrdiff_t>(sizeof(Element)));
     }
     constexpr std::size_t longest_name = 47;
     record.funcNameLen = static_cast<std::int32_t>(strnlen(name, longest_name));
