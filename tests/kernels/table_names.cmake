@@ -3,9 +3,9 @@
 #   cmake -DTABLES=folder -P table_names.cmake
 file(GLOB headers ${TABLES}/*.hpp)
 foreach(header ${headers})
-    file(STRINGS ${header} lines REGEX "^inline constexpr")
+    file(STRINGS ${header} lines REGEX "^(alignas.*)?inline constexpr")
     foreach(line ${lines})
-        if(NOT line MATCHES "([A-Za-z0-9_]+)( = |{)")
+        if(NOT line MATCHES "([A-Za-z0-9_]+)(\\[[0-9]+\\])?( = |{)")
             message(FATAL_ERROR "${header}: no name in: ${line}")
         endif()
         set(name ${CMAKE_MATCH_1})
