@@ -44,7 +44,7 @@ std::int32_t init(std::int32_t method, StreamState *stream, std::int32_t n, cons
 std::int32_t draw_integers(StreamState *stream, std::int32_t n, void *r) {
     auto &state = state_of<ToyState>(stream);
     for (std::int32_t k = 0; k < n; ++k, state.next += state.step)
-        std::memcpy(static_cast<std::byte *>(r) + 8 * k, &state.next, sizeof state.next);
+        std::memcpy(static_cast<std::uint64_t *>(r) + k, &state.next, sizeof state.next);
     return HuxStatusOk;
 }
 
