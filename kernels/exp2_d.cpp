@@ -66,14 +66,14 @@ struct Exp2 : OneResult<double> {
     static constexpr Bounds bounds{0x1.fffffffffffffp+9, -0x1.0cbffffffffffp+10, -0x1.ffp+9};
 
     template <int N>
-    static Pack<double, N> body(Pack<double, N> x) {
+    QORL_INLINE static Pack<double, N> body(Pack<double, N> x) {
         const Pack<double, N> shifted = x + Pack<double, N>(tables::exp2_shift);
         const auto r = x - (shifted - Pack<double, N>(tables::exp2_shift));
         return power(bits(shifted), r * horner(r, tables::exp2_poly));
     }
 
     template <int N>
-    static Mask<double, N> special(Pack<double, N> x) {
+    QORL_INLINE static Mask<double, N> special(Pack<double, N> x) {
         return not_less_equal(abs(x), fast_bound);
     }
 
@@ -91,7 +91,7 @@ struct Exp10 : OneResult<double> {
     static constexpr Bounds bounds{0x1.34413509f79fep+8, -0x1.439b746e36b52p+8, -0x1.33a7146f72a41p+8};
 
     template <int N>
-    static Pack<double, N> body(Pack<double, N> x) {
+    QORL_INLINE static Pack<double, N> body(Pack<double, N> x) {
         using P = Pack<double, N>;
         const P shifted = fma(x, P(tables::exp10_64_per_lg2), P(tables::round_shift));
         const P n = shifted - P(tables::round_shift);
@@ -101,7 +101,7 @@ struct Exp10 : OneResult<double> {
     }
 
     template <int N>
-    static Mask<double, N> special(Pack<double, N> x) {
+    QORL_INLINE static Mask<double, N> special(Pack<double, N> x) {
         return not_less_equal(abs(x), fast_bound);
     }
 

@@ -53,7 +53,7 @@ struct Exp : OneResult<double> {
     static constexpr int packs = 2;
 
     template <int N>
-    static Pack<double, N> body(Pack<double, N> x) {
+    QORL_INLINE static Pack<double, N> body(Pack<double, N> x) {
         using P = Pack<double, N>;
         using namespace tables;
         const P shift(round_shift);
@@ -85,7 +85,7 @@ struct Exp : OneResult<double> {
     }
 
     template <int N>
-    static Mask<double, N> special(Pack<double, N> x) {
+    QORL_INLINE static Mask<double, N> special(Pack<double, N> x) {
         return not_less_equal(abs(x), fast_bound);
     }
 

@@ -1,17 +1,16 @@
 // e^x - 1, double precision.
 //
-// Method   x = N ln2/M + r, |r| <= ln2/(2 M), S = 2^(N/M) from a table and the exponent; e^x - 1 = (S - 1) + S (e^r -
-// 1),
-//          e^r - 1 = r + r^2 p(r). With N = 0 the first term is zero and the second x + x^2 p(x), so that small and
-//          denormal x and the sign of zero need no care but one: zeros are subtracted, never added.
-//          LA, HA: M = 64, S in two words. (The step is wider and the polynomial one degree higher than with 128
-//          entries, so that the table is that of Exp.) Next to 0, where S - 1 cancels, HA keeps every rounding error
-//          that is not small against the result: r = rh - rl, the errors of 1 - S, S rh and their sum.
-//          EP: M = 128, S in one word, ln2/M in one word.
+// Method   e^x - 1 = (S - 1) + S (e^r - 1), S a power of two or of its root. With S = 1 the first term is zero and the
+//          second r + r^2 p(r) with r = x, so that small and denormal x and the sign of zero need no care but one:
+//          zeros are subtracted, never added. LA: x = N ln2/64 + r, S = 2^(N/64) in two words from the table of Exp.
+//          EP: 128 steps, one word each. HA: whole octaves and no table, since the reads and the error of S - 1 cost
+//          more than the longer polynomial: x = N ln2 + r, S - 1 is exact but for the 1 itself beyond 2^53, S r is
+//          exact, and the error of their sum is kept. The ends of r are moved upwards, away from the cancellation of 1
+//          and 2 r.
 // Range    the bodies take |x| <= 707.703; the rest goes to the scalar function. Overflow raises 3 above 709.7827.
-// Error    HA 0.5 ulp of the last subtraction + 2^-7 for its second term. LA in units next to 0: 0.5 each of r, e^r -
-// 1,
-//          1 - S and the result. EP next to 0 2^-32 from the polynomial. Measured: docs/accuracy.md.
+// Error    HA 0.5 ulp of the last addition; at S = 2, r = -0.288, where it is worst, 0.26 more from the roundings of r
+//          and q. LA in units next to 0: 0.5 each of r, e^r - 1, 1 - S and the result. EP next to 0 2^-32 from the
+//          polynomial. Measured: docs/accuracy.md.
 // Source   P. T. P. Tang, Table-driven implementation of the expm1 function, ACM TOMS 18(2), 1992; the error of a sum:
 //          D. E. Knuth, The Art of Computer Programming, vol. 2, section 4.2.2.
 #include "kernels/tables/expm1_d.hpp"
@@ -48,7 +47,7 @@ struct Expm1 : OneResult<double> {
     static constexpr int packs = 2;
 
     template <int N>
-    static Pack<double, N> body(Pack<double, N> x) {
+    QORL_INLINE static Pack<double, N> body(Pack<double, N> x) {
         using P = Pack<double, N>;
         using namespace tables;
         if constexpr (L == Level::EP) {
@@ -58,36 +57,33 @@ struct Expm1 : OneResult<double> {
             const P s = lookup(exp2_128, bits(shifted) & 0x7F) * real(shift_left(bits(shifted), 45) & exponent_field);
             const P q = r * fma(r, horner(r, expm1_ep_poly), P(1));
             return fms(s, q, P(1) - s);
-        } else {
+        } else if constexpr (L == Level::LA) {
             const P shifted = fma(x, P(exp_64_per_ln2), P(expm1_shift));
             const P n = shifted - P(expm1_shift);
-            const P r_high = fnma(n, P(exp_ln2_64_hi), x);  // exact
+            const P r = fnma(n, P(exp_ln2_64_lo), fnma(n, P(exp_ln2_64_hi), x));
             P t, t_low;
             lookup_pair(exp2_pairs_64, shift_left(bits(shifted), 4) & 0x3F0, t, t_low);
             const P scale = real(shift_left(bits(shifted), 46) & exponent_field);
-            const P s = t * scale, one_minus_s = P(1) - s;
-            if constexpr (L == Level::LA) {
-                const P r = fnma(n, P(exp_ln2_64_lo), r_high);
-                const P q = r * fma(r, horner(r, expm1_poly), P(1));
-                return fms(s, q, fnma(t_low, scale, one_minus_s));
-            } else {
-                // e^r - 1 = r_high + q
-                const P r_low = n * P(exp_ln2_64_lo), r = r_high - r_low;
-                const P q = fms(r * r, horner(r, expm1_poly), r_low);
-                // 1 - s = one_minus_s + error, s r_high = product - product_error
-                const P minus_s = one_minus_s - P(1);
-                const P error = (P(1) - (one_minus_s - minus_s)) - (s + minus_s);
-                const P product = s * r_high, product_error = fnma(s, r_high, product);
-                // The result is product - one_minus_s with all that was left out subtracted last.
-                const P sum = product - one_minus_s, sum_error = (sum + one_minus_s) - product;
-                const P s_low = t_low * scale, rest = fma(s, q, fma(s_low, r, s_low));
-                return sum - (sum_error + (product_error + (error - rest)));
-            }
+            const P q = r * fma(r, horner(r, expm1_poly), P(1));
+            return fms(t * scale, q, fnma(t_low, scale, fnma(t, scale, P(1))));
+        } else {
+            const P shifted = fma(x - P(expm1_offset), P(expm1_per_ln2), P(expm1_ha_shift));
+            const P n = shifted - P(expm1_ha_shift);
+            const P r_high = fnma(n, P(expm1_ln2_hi), x);  // exact
+            const P r_low = n * P(expm1_ln2_lo), r = r_high - r_low;
+            const P s = real(shift_left(bits(shifted), 52));
+            // s - 1, and its error where s is above 2^53
+            const P a = s - P(1), a_error = (s - a) - P(1);
+            // a + s r_high = sum + error; s r_high is exact, and never larger than a but where a is zero
+            const P sum = fma(s, r_high, a), error = fms(s, r_high, sum - a);
+            // e^r - 1 = r_high + q; the square is fused, so that its rounding does not count
+            const P q = fma(r, P(0.5) * r, fms(r * r * r, even_odd(r, expm1_ha_poly), r_low));
+            return sum + (fma(s, q, error) + a_error);
         }
     }
 
     template <int N>
-    static Mask<double, N> special(Pack<double, N> x) {
+    QORL_INLINE static Mask<double, N> special(Pack<double, N> x) {
         return not_less_equal(abs(x), fast_bound);
     }
 
