@@ -72,13 +72,13 @@ struct Expm1 : OneResult<double> {
             const P r_high = fnma(n, P(expm1_ln2_hi), x);  // exact
             const P r_low = n * P(expm1_ln2_lo), r = r_high - r_low;
             const P s = real(shift_left(bits(shifted), 52));
-            // s - 1, and its error where s is above 2^53
-            const P a = s - P(1), a_error = (s - a) - P(1);
-            // a + s r_high = sum + error; s r_high is exact, and never larger than a but where a is zero
-            const P sum = fma(s, r_high, a), error = fms(s, r_high, sum - a);
+            // 1 - s, and its error where s is above 2^53
+            const P one_minus_s = P(1) - s, error = P(1) - (s + one_minus_s);
+            // s r_high - (1 - s) and its error; s r_high is exact, and smaller than 1 - s but where that is zero
+            const P sum = fms(s, r_high, one_minus_s), sum_error = fms(s, r_high, sum + one_minus_s);
             // e^r - 1 = r_high + q; the square is fused, so that its rounding does not count
             const P q = fma(r, P(0.5) * r, fms(r * r * r, even_odd(r, expm1_ha_poly), r_low));
-            return sum + (fma(s, q, error) + a_error);
+            return sum - (error - fma(s, q, sum_error));
         }
     }
 
