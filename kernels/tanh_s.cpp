@@ -4,10 +4,10 @@
 //          register. LA, HA: the exponent and one bit of 1 + 1.64 |x| name the interval, so that its width grows with
 //          |x| as the distance of the poles does; c0 + r (c1 + ...), r = |x| - centre exact. The centres are chosen
 //          so that c0 is all but a float. LA: degree 6. HA: degree 8, c1 all but a float too, and c0 + c1 r in two
-//          words. EP: the exponent and two bits of 1 + 0.70 |x|, and x times a polynomial of degree 2 in |x|.
+//          words. EP: the exponent and two bits of 1 + 0.70 |x|, and |x| times a polynomial of degree 2 in |x|.
 // Range    all x. |x| is cut off at 9.125 (EP 4.25), where the polynomials give 1 exactly; NaN passes through: no lane
-//          is special. HA, LA: the sign of x is put back last. tanh is odd bit for bit, and at HA and LA
-//          tanh x = x where |x| is tiny. Nothing is raised.
+//          is special. The sign of x is put back last. tanh is odd bit for bit, and at HA and LA tanh x = x where |x|
+//          is tiny. Nothing is raised.
 // Error    HA 0.5 ulp of the last addition + the rounding of r^2 (c2 + ...), at most a tenth of the result; LA 2^-23.5
 //          of the polynomials and the roundings of p and the last fma; EP 2^-11.26, the distance from 1 at the end.
 //          Intervals and degrees are fitted anew for permutes.
@@ -47,10 +47,9 @@ struct Tanh : OneResult<float> {
         using P = Pack<float, N>;
         using namespace tables;
         if constexpr (L == Level::EP) {
-            const P cut = max(P(-tanh_ep_end), min(P(tanh_ep_end), x));  // NaN passes as the second operand
-            const P a = abs(cut);
+            const P a = min(P(tanh_ep_end), abs(x));  // NaN passes as the second operand
             const auto index = shift_right(bits(fma(a, P(tanh_ep_scale), P(1))), 23 - 2);
-            return cut * horner(a, lookup_each(tanh_ep_rows, index));
+            return (a * horner(a, lookup_each(tanh_ep_rows, index))) | (x & P(-0.0f));
         } else {
             const P a = min(P(tanh_end), abs(x));  // NaN passes as the second operand
             const auto index = shift_right(bits(fma(a, P(tanh_scale), P(1))), 23 - 1);

@@ -22,16 +22,16 @@ Real cosh_of_root(const Real &y) {
 template <class T>
 void fits(const std::string &level, const std::vector<T> &sinh, const std::vector<T> &cosh) {
     const Real r(0.34661), high = r * r;
-    fitted<T>(("sinh_" + level + "_poly").c_str(), {1}, sinh, "sinh(r) = r (1 + y (c0 + c1 y + ...)), y = r^2",
+    fitted<T>(("sinh_" + level + "_poly_s").c_str(), {1}, sinh, "sinh(r) = r (1 + y (c0 + c1 y + ...)), y = r^2",
               sinh_over_r, Real(0), high, Error::relative);
-    fitted<T>(("cosh_" + level + "_poly").c_str(), {1}, cosh, "cosh(r) = 1 + y (c0 + c1 y + ...), y = r^2",
+    fitted<T>(("cosh_" + level + "_poly_s").c_str(), {1}, cosh, "cosh(r) = 1 + y (c0 + c1 y + ...), y = r^2",
               cosh_of_root, Real(0), high, Error::relative);
 }
 
 }  // namespace
 
 int main() {
-    open_header("sinh_cosh_s", "Constants and polynomials of the single-precision hyperbolic sine and cosine.");
+    open_header("cosh_sinh_s", "Constants and polynomials of the single-precision hyperbolic sine and cosine.");
     std::printf("\n");
     const Real hi = ln2().rounded_to(16);
     constant("sinh_cosh_per_ln2_s", (Real(1) / ln2()).to_float(), "1 / ln 2");

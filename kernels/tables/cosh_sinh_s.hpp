@@ -1,8 +1,8 @@
 // Constants and polynomials of the single-precision hyperbolic sine and cosine.
 //
-// Written by tools/tables/sinh_cosh_s.cpp: every number from its rule in 200 bits, rounded once. Do not edit.
-#ifndef QORL_KERNELS_TABLES_SINH_COSH_S_HPP
-#define QORL_KERNELS_TABLES_SINH_COSH_S_HPP
+// Written by tools/tables/cosh_sinh_s.cpp: every number from its rule in 200 bits, rounded once. Do not edit.
+#ifndef QORL_KERNELS_TABLES_COSH_SINH_S_HPP
+#define QORL_KERNELS_TABLES_COSH_SINH_S_HPP
 
 #include <array>
 
@@ -20,39 +20,39 @@ inline constexpr float sinh_cosh_fast_bound = 0x1.5d589ep+6f;  // 126 ln 2: up t
 inline constexpr float sinh_cosh_overflow_bound = 0x1.65a9f8p+6f;  // the largest x with a finite result
 
 // sinh(r) = r (1 + y (c0 + c1 y + ...)), y = r^2 on [0, 0.120138492], relative error 2^-37.47.
-inline constexpr std::array<double, 3> sinh_ha_poly = {
+inline constexpr std::array<double, 3> sinh_ha_poly_s = {
     0x1.5555557387dc3p-3,
     0x1.1110b1c325f3cp-7,
     0x1.a16ff27e97ecp-13,
 };
 
 // cosh(r) = 1 + y (c0 + c1 y + ...), y = r^2 on [0, 0.120138492], relative error 2^-34.31.
-inline constexpr std::array<double, 3> cosh_ha_poly = {
+inline constexpr std::array<double, 3> cosh_ha_poly_s = {
     0x1.00000043faeeep-1,
     0x1.55547eccb513dp-5,
     0x1.6d9791e4cfa89p-10,
 };
 
 // sinh(r) = r (1 + y (c0 + c1 y + ...)), y = r^2 on [0, 0.120138492], relative error 2^-26.14.
-inline constexpr std::array<float, 2> sinh_la_poly = {
+inline constexpr std::array<float, 2> sinh_la_poly_s = {
     0x1.5554bp-3f,
     0x1.122802p-7f,
 };
 
 // cosh(r) = 1 + y (c0 + c1 y + ...), y = r^2 on [0, 0.120138492], relative error 2^-29.95.
-inline constexpr std::array<float, 3> cosh_la_poly = {
+inline constexpr std::array<float, 3> cosh_la_poly_s = {
     0x1p-1f,
     0x1.55547ep-5f,
     0x1.6d9792p-10f,
 };
 
 // sinh(r) = r (1 + y (c0 + c1 y + ...)), y = r^2 on [0, 0.120138492], relative error 2^-15.57.
-inline constexpr std::array<float, 1> sinh_ep_poly = {
+inline constexpr std::array<float, 1> sinh_ep_poly_s = {
     0x1.57094ep-3f,
 };
 
 // cosh(r) = 1 + y (c0 + c1 y + ...), y = r^2 on [0, 0.120138492], relative error 2^-13.27.
-inline constexpr std::array<float, 1> cosh_ep_poly = {
+inline constexpr std::array<float, 1> cosh_ep_poly_s = {
     0x1.02218ap-1f,
 };
 

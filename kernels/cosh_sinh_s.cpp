@@ -18,7 +18,7 @@
 #include "frame/entry_points.hpp"
 #include "frame/poly.hpp"
 #include "kernels/exp_scalar.hpp"
-#include "kernels/tables/sinh_cosh_s.hpp"
+#include "kernels/tables/cosh_sinh_s.hpp"
 
 namespace qorl {
 namespace {
@@ -65,11 +65,11 @@ QORL_INLINE Parts<Pack<T, N>> parts(Pack<T, N> x) {
     const auto odd = [&](const auto &c) { return fma(r * y, horner(y, c), r); };
     const auto even = [&](const auto &c) { return fma(y, horner(y, c), P(1)); };
     if constexpr (L == Level::HA)
-        return {a + b, b - a, odd(sinh_ha_poly), even(cosh_ha_poly)};
+        return {a + b, b - a, odd(sinh_ha_poly_s), even(cosh_ha_poly_s)};
     else if constexpr (L == Level::LA)
-        return {a + b, b - a, odd(sinh_la_poly), even(cosh_la_poly)};
+        return {a + b, b - a, odd(sinh_la_poly_s), even(cosh_la_poly_s)};
     else
-        return {a + b, b - a, odd(sinh_ep_poly), even(cosh_ep_poly)};
+        return {a + b, b - a, odd(sinh_ep_poly_s), even(cosh_ep_poly_s)};
 }
 
 // The difference is taken from b to a: with n = 0 the first product is then subtracted as +0, and sinh -0 is -0.
