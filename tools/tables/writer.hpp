@@ -42,6 +42,8 @@ class Real {
     friend Real exp(const Real &a) { return apply(mpfr_exp, a); }
     friend Real exp2(const Real &a) { return apply(mpfr_exp2, a); }
     friend Real log(const Real &a) { return apply(mpfr_log, a); }
+    friend Real sinh(const Real &a) { return apply(mpfr_sinh, a); }
+    friend Real cosh(const Real &a) { return apply(mpfr_cosh, a); }
     friend Real tanh(const Real &a) { return apply(mpfr_tanh, a); }
     friend Real sqrt(const Real &a) { return apply(mpfr_sqrt, a); }
 
