@@ -39,9 +39,7 @@ inline constexpr float exp10_s_fast_bound = 0x1.2f703p+5f;  // the bodies take |
 
 inline constexpr float expm1_s_least = -0x1.205968p+4f;  // -26 ln 2: from here down the result is -1
 inline constexpr float expm1_s_fast_bound = 0x1.61804cp+6f;  // 127.5 ln 2 less a margin: up to here N is at most 127
-inline constexpr double expm1_s_wide_shift = 0x1.8p+52;  // rounds to an integer, which the low bits then hold
-inline constexpr double expm1_s_wide_per_ln2 = 0x1.71547652b82fep+0;  // 1 / ln 2
-inline constexpr double expm1_s_wide_ln2 = 0x1.62e42fefa39efp-1;  // ln 2
+inline constexpr float expm1_s_ha_shift = 0x1.8000fep+23f;  // exp_s_shift, with the exponent bias in its low bits
 
 // 2^(j/8), its bits less j 2^20: adding N 2^20 makes 2^(N/8), j = N mod 8.
 inline constexpr std::array<float, 8> exp2_eighths = {
@@ -106,14 +104,13 @@ inline constexpr std::array<float, 3> exp10_s_poly = {
     0x1.2bdebp+0f,
 };
 
-// e^r - 1 = r + r^2 (c0 + c1 r + ...) on [-0.346920511, 0.346920511], relative error 2^-31.95.
-inline constexpr std::array<double, 6> expm1_s_ha_poly = {
-    0x1.0000002623a4dp-1,
-    0x1.555554ef027a4p-3,
-    0x1.5554b0987cbc9p-5,
-    0x1.111189d5c5865p-7,
-    0x1.6d7296cdbbcdp-10,
-    0x1.a032ca44b292p-13,
+// e^r - 1 = r + r^2/2 + r^3 (c0 + c1 r + ...) on [-0.346920511, 0.346920511], relative error 2^-29.79.
+inline constexpr std::array<float, 5> expm1_s_ha_poly = {
+    0x1.555554p-3f,
+    0x1.5554f2p-5f,
+    0x1.1111ccp-7f,
+    0x1.6d4104p-10f,
+    0x1.9fbdccp-13f,
 };
 
 // e^r - 1 = r + r^2 (c0 + c1 r + ...) on [-0.346920511, 0.346920511], relative error 2^-25.77.
