@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <limits>
 
+#include "frame/poly.hpp"
 #include "kernels/tables/exp_d.hpp"
 
 namespace qorl {
@@ -29,10 +30,8 @@ inline ExpParts exp_parts(double x) {
     const double n = shifted - round_shift;
     const double r = std::fma(-n, exp_ln2_64_lo, std::fma(-n, exp_ln2_64_hi, x));
     const std::int64_t bits = std::bit_cast<std::int64_t>(shifted) - std::bit_cast<std::int64_t>(round_shift);
-    double p = exp_scalar_poly[4];
-    for (int i = 3; i >= 0; --i) p = std::fma(p, r, exp_scalar_poly[i]);
     const int j = static_cast<int>(bits & 63);
-    return {exp2_pairs_64[2 * j], exp2_pairs_64[2 * j + 1], std::fma(r * r, p, r), bits >> 6};
+    return {exp2_pairs_64[2 * j], exp2_pairs_64[2 * j + 1], std::fma(r * r, horner(r, exp_scalar_poly), r), bits >> 6};
 }
 
 inline double power_of_two(std::int64_t k) {  // for a normal result
