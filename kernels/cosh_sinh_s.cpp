@@ -2,15 +2,18 @@
 //
 // Method   x = n ln2 + r, |r| <= ln2/2; with a = 2^(n-1) and b = 2^(-n-1), put together as integers,
 //          sinh x = (a - b) cosh r + (a + b) sinh r, cosh x = (a + b) cosh r + (a - b) sinh r. sinh r and cosh r are
-//          polynomials of degree 5 and 6 (LA), 3 and 2 (EP), 7 and 6 (HA). LA: ln2 in two words. EP: in one. HA
-//          computes in double precision and rounds once. A change of the sign of x changes those of n and r and
+//          polynomials of degree 5 and 6 (LA), 3 and 2 (EP), 7 and 6 (HA). LA: ln2 in two words. EP: in one. Sinh
+//          HA: r in two words, and (a - b) + (a + b) r with its error apart from the rest. Cosh HA computes in double
+//          precision and rounds once: in two words it has to add b on its own where a + b rounds it away, which made
+//          it slower than Sinh and no better than 1 ulp. A change of the sign of x changes those of n and r and
 //          exchanges a and b: sinh is odd and cosh even bit for bit, without a look at the sign.
-// Range    |x| <= 87.3 at LA and EP, up to overflow (3) at 89.4 at HA; the rest goes to the scalar function, where
+// Range    |x| <= 87.3, for Cosh HA up to overflow (3) at 89.4; the rest goes to the scalar function, where
 //          e^-|x| counts for nothing. Infinities stay and raise nothing, NaN stays NaN. n = 0 leaves
 //          sinh x = r (1 + ...): x itself where it is tiny, and -0 for -0.
-// Error    HA 0.5 ulp + 2^-33 relative. LA: the two products cancel by half at the worst, near |x| = 0.4 with n = 1 in
-//          sinh, so that their roundings and those of cosh r and sinh r count up to twice. EP 2^-13.2 of the
-//          polynomials, counted in the same way.
+// Error    Cosh HA 0.5 ulp + 2^-33 relative. Sinh HA 0.5 ulp of the last step; where |n| is 12 or 13 the sums of a
+//          and b are rounded and add 0.35, the roundings of the rest about 0.1. LA: the two products cancel by half at
+//          the worst, near |x| = 0.4 with n = 1 in sinh, so that their roundings and those of cosh r and sinh r count
+//          up to twice. EP 2^-13.2 of the polynomials, counted in the same way.
 // Source   the addition theorems; J.-M. Muller, Elementary Functions, 3rd ed., section 11, for the reduction.
 #include <cmath>
 #include <limits>
@@ -65,7 +68,7 @@ QORL_INLINE Parts<Pack<T, N>> parts(Pack<T, N> x) {
     const auto odd = [&](const auto &c) { return fma(r * y, horner(y, c), r); };
     const auto even = [&](const auto &c) { return fma(y, horner(y, c), P(1)); };
     if constexpr (L == Level::HA)
-        return {a + b, b - a, odd(sinh_ha_poly_s), even(cosh_ha_poly_s)};
+        return {a + b, b - a, odd(sinh_wide_poly_s), even(cosh_wide_poly_s)};
     else if constexpr (L == Level::LA)
         return {a + b, b - a, odd(sinh_la_poly_s), even(cosh_la_poly_s)};
     else
@@ -80,6 +83,24 @@ QORL_INLINE P sinh_of(const Parts<P> &p) {
 template <class P>
 QORL_INLINE P cosh_of(const Parts<P> &p) {
     return fnma(p.difference, p.sinh_r, p.sum * p.cosh_r);
+}
+
+// x = n ln2 + r_high - r_low, the first difference exact. The large terms of sinh x are a - b and (a + b) r_high: their
+// sum is kept with its error, and a tenth of the result is left for the rest. Zeros are subtracted, as above.
+template <int N>
+QORL_INLINE Pack<float, N> sinh_in_two_words(Pack<float, N> x) {
+    using P = Pack<float, N>;
+    using F = Format<float>;
+    using namespace tables;
+    const P shifted = fma(x, P(F::per_ln2), P(F::shift));
+    const P n = shifted - P(F::shift);
+    const P r_high = fnma(n, P(F::ln2), x), r_low = n * P(sinh_cosh_ln2_rest_s), r = r_high - r_low;
+    const auto a_bits = shift_left(bits(shifted), F::fraction_bits);
+    const P a = real(a_bits), b = real(decltype(a_bits)(F::fields) - a_bits);
+    const P sum = a + b, difference = b - a;
+    const P large = fms(sum, r_high, difference), error = fnma(sum, r_high, difference + large);
+    const P y = r * r, sinh_rest = fms(r * y, horner(y, sinh_ha_poly_s), r_low);  // sinh r - r_high
+    return large - fma(difference * y, horner(y, cosh_la_poly_s), fnma(sum, sinh_rest, error));
 }
 
 // e^|x| / 2 for |x| >= 87, infinity past the end of the range; the status.
@@ -124,9 +145,13 @@ struct Sinh : Hyperbolic<L> {
     template <int N>
     QORL_INLINE static Pack<float, N> body(Pack<float, N> x) {
         if constexpr (L == Level::HA)
-            return narrow(sinh_of(parts<L>(widen(x))));
+            return sinh_in_two_words(x);
         else
             return sinh_of(parts<L>(x));
+    }
+    template <int N>
+    QORL_INLINE static Mask<float, N> special(Pack<float, N> x) {
+        return not_less_equal(abs(x), tables::sinh_cosh_fast_bound);
     }
     static int scalar(float x, float *y) { return sinh_scalar(x, y); }
 };
