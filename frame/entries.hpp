@@ -139,6 +139,15 @@ static_assert([] {
 }() == 277);
 static_assert(
     [] {
+        for (const Function &function : functions) {
+            const bool single = function.type == 's' || function.type == 'c';
+            if (function.la_ulp >= 4 || function.ha_ulp >= 1 || function.ep_bits < (single ? 11 : 26)) return false;
+        }
+        return true;
+    }(),
+    "no function promises less than its levels do");
+static_assert(
+    [] {
         for (const Function &function : functions)
             if (!has_entry(function.type, function.name)) return false;
         for (const NameRows &name : name_rows)

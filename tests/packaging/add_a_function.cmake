@@ -22,7 +22,7 @@ file(COPY ${SOURCE}/kernels/CMakeLists.txt ${SOURCE}/kernels/abs.cpp ${SOURCE}/t
      DESTINATION ${SCRATCH}/source/kernels)
 file(STRINGS ${SOURCE}/frame/functions.inc lines)
 list(FILTER lines INCLUDE REGEX "^QORL_FUNCTION\\([sd], Abs,")
-list(APPEND lines "QORL_FUNCTION(d, J0, 4.0, 1.0, 26)")
+list(APPEND lines "QORL_FUNCTION(d, J0, 3.9, 0.9, 26)")
 list(JOIN lines "\n" functions)
 file(WRITE ${SCRATCH}/source/frame/functions.inc "${functions}\n")
 
