@@ -256,15 +256,6 @@ class RowLookup {
     std::uintptr_t base_;
     std::array<std::uintptr_t, 4> at_[N];
 };
-// One of four floats, by the low two bits of each index; the table is the same in both halves of a register.
-template <int N>
-QORL_INLINE Pack<float, N> lookup4(const std::array<float, 4> &table, Pack<std::int32_t, N> index) {
-    const __m128 four = _mm_loadu_ps(table.data());
-    const __m256 both = _mm256_setr_m128(four, four);
-    Pack<float, N> r;
-    each_register<N>([&](int i) { r.v[i] = _mm256_permutevar_ps(both, index.v[i]); });
-    return r;
-}
 // One of eight floats, by the low three bits of each index.
 template <int N>
 QORL_INLINE Pack<float, N> lookup8(const std::array<float, 8> &table, Pack<std::int32_t, N> index) {

@@ -26,17 +26,18 @@ constexpr double fast_bound = 0x1.61d99p+9;                          // 707.7; f
 constexpr double overflow_bound = 0x1.633ce8fb9f87dp+9;              // the largest |x| with a finite result
 constexpr std::int64_t exponent_sum = std::int64_t{2 * 1022} << 52;  // of the fields of a and b
 
-// cosh x and sinh x for x beyond fast_bound, infinite or NaN: e^x / 2.
+// e^|x| / 2 for |x| beyond fast_bound, where it is cosh x; NaN and infinities as x^2.
 [[gnu::noinline]] int large_half_exp(double x, double *y) {
     if (!std::isfinite(x)) {
         *y = x * x;
         return 0;
     }
-    if (x > overflow_bound) {
+    const double magnitude = std::fabs(x);
+    if (magnitude > overflow_bound) {
         *y = std::numeric_limits<double>::infinity();
         return 3;
     }
-    ExpParts e = exp_parts(x);
+    ExpParts e = exp_parts(magnitude);
     --e.k;
     *y = assemble(e);
     return 0;
@@ -89,7 +90,7 @@ struct Cosh : OneResult<double> {
         return not_less_equal(abs(x), fast_bound);
     }
 
-    static int scalar(double x, double *y) { return large_half_exp(std::fabs(x), y); }
+    static int scalar(double x, double *y) { return large_half_exp(x, y); }
 };
 
 template <Level L>
@@ -108,7 +109,7 @@ struct Sinh : OneResult<double> {
     }
 
     static int scalar(double x, double *y) {
-        const int status = large_half_exp(std::fabs(x), y);
+        const int status = large_half_exp(x, y);
         *y = std::copysign(*y, x);
         return status;
     }
