@@ -91,12 +91,9 @@ struct Exp : OneResult<double> {
 
     static int scalar(double x, double *y) { return exp_scalar(x, y); }
 
-    // Without error handling the far ends need no call: the lanes whose results are infinite or zero.
     template <int N>
     static Mask<double, N> saturate(Pack<double, N> x, Pack<double, N> &y) {
-        const auto over = greater(x, overflow_bound), under = less(x, underflow_bound);
-        y = select(over, std::numeric_limits<double>::infinity(), select(under, 0.0, y));
-        return over | under;
+        return saturate_exp(x, y, overflow_bound, underflow_bound);
     }
 };
 

@@ -87,7 +87,7 @@ struct Exp : OneResult<float> {
 
     template <int N>
     static Mask<float, N> saturate(Pack<float, N> x, Pack<float, N> &y) {
-        return saturate_exp(x, y, exp_s_bounds);
+        return saturate_exp(x, y, exp_s_bounds.overflow, exp_s_bounds.underflow);
     }
 };
 

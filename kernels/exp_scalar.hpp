@@ -56,6 +56,14 @@ inline double assemble_denormal(const ExpParts &e) {
     return 0x1p-60 * w + 0x1p-60 * ((low + (high - v)) + (v - w));
 }
 
+// Without error handling the far ends of e^x need no call: the lanes whose results are infinite or zero. Returns them.
+template <class T, int N>
+QORL_INLINE Mask<T, N> saturate_exp(Pack<T, N> x, Pack<T, N> &y, T overflow_bound, T underflow_bound) {
+    const auto over = greater(x, overflow_bound), under = less(x, underflow_bound);
+    y = select(over, std::numeric_limits<T>::infinity(), select(under, T(0), y));
+    return over | under;
+}
+
 }  // namespace qorl
 
 #endif

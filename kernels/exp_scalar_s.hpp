@@ -50,14 +50,6 @@ inline int exp_scalar_by_double(float x, double ln_base, const ExpBounds &bounds
     return x < bounds.denormal ? 4 : 0;
 }
 
-// Without error handling the far ends need no call: the lanes whose results are infinite or zero.
-template <int N>
-Mask<float, N> saturate_exp(Pack<float, N> x, Pack<float, N> &y, const ExpBounds &bounds) {
-    const auto over = greater(x, bounds.overflow), under = less(x, bounds.underflow);
-    y = select(over, std::numeric_limits<float>::infinity(), select(under, 0.0f, y));
-    return over | under;
-}
-
 }  // namespace qorl
 
 #endif
