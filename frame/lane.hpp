@@ -35,6 +35,12 @@ struct Lane<double> {
     QORL_INLINE static Register fnma(Register a, Register b, Register c) { return _mm256_fnmadd_pd(a, b, c); }
     QORL_INLINE static Register min(Register a, Register b) { return _mm256_min_pd(a, b); }
     QORL_INLINE static Register max(Register a, Register b) { return _mm256_max_pd(a, b); }
+    QORL_INLINE static Register reciprocal_estimate(Register a) {
+        return _mm256_cvtps_pd(_mm_rcp_ps(_mm256_cvtpd_ps(a)));
+    }
+    QORL_INLINE static Register reciprocal_sqrt_estimate(Register a) {
+        return _mm256_cvtps_pd(_mm_rsqrt_ps(_mm256_cvtpd_ps(a)));
+    }
     QORL_INLINE static Register round(Register a) {
         return _mm256_round_pd(a, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC);
     }
@@ -86,6 +92,8 @@ struct Lane<float> {
     QORL_INLINE static Register fnma(Register a, Register b, Register c) { return _mm256_fnmadd_ps(a, b, c); }
     QORL_INLINE static Register min(Register a, Register b) { return _mm256_min_ps(a, b); }
     QORL_INLINE static Register max(Register a, Register b) { return _mm256_max_ps(a, b); }
+    QORL_INLINE static Register reciprocal_estimate(Register a) { return _mm256_rcp_ps(a); }
+    QORL_INLINE static Register reciprocal_sqrt_estimate(Register a) { return _mm256_rsqrt_ps(a); }
     QORL_INLINE static Register round(Register a) {
         return _mm256_round_ps(a, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC);
     }
@@ -155,6 +163,7 @@ struct Lane<std::int32_t> {
     QORL_INLINE static Register bit_xor(Register a, Register b) { return _mm256_xor_si256(a, b); }
     QORL_INLINE static Register shift_left(Register a, int k) { return _mm256_slli_epi32(a, k); }
     QORL_INLINE static Register shift_right(Register a, int k) { return _mm256_srli_epi32(a, k); }
+    QORL_INLINE static Register shift_right_signed(Register a, int k) { return _mm256_srai_epi32(a, k); }
     QORL_INLINE static Register greater(Register a, Register b) { return _mm256_cmpgt_epi32(a, b); }
     QORL_INLINE static Register equal(Register a, Register b) { return _mm256_cmpeq_epi32(a, b); }
 };

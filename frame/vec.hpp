@@ -64,6 +64,10 @@ struct Pack {
     QORL_INLINE friend Pack max(Pack a, Pack b) { return map<Ops::max>(a, b); }
     QORL_INLINE friend Pack abs(Pack a) { return map<Ops::bit_andnot>(Pack(T(-0.0)), a); }
     QORL_INLINE friend Pack round_to_int(Pack a) { return map<Ops::round>(a); }  // to nearest, ties to even
+    // The processor's estimates of 1/a and 1/sqrt(a), relative error below 1.5 2^-12; of doubles through single
+    // precision, so within its range. Their bits differ between makes of processor.
+    QORL_INLINE friend Pack reciprocal_estimate(Pack a) { return map<Ops::reciprocal_estimate>(a); }
+    QORL_INLINE friend Pack reciprocal_sqrt_estimate(Pack a) { return map<Ops::reciprocal_sqrt_estimate>(a); }
 
     // Integer packs.
     QORL_INLINE friend Pack shift_left(Pack a, int k) {
@@ -74,6 +78,11 @@ struct Pack {
     QORL_INLINE friend Pack shift_right(Pack a, int k) {  // zeros come in from the left
         Pack r;
         each_register<N>([&](int i) { r.v[i] = Ops::shift_right(a.v[i], k); });
+        return r;
+    }
+    QORL_INLINE friend Pack shift_right_signed(Pack a, int k) {  // copies of the sign come in; 32-bit integers
+        Pack r;
+        each_register<N>([&](int i) { r.v[i] = Ops::shift_right_signed(a.v[i], k); });
         return r;
     }
 };
@@ -262,6 +271,14 @@ QORL_INLINE Pack<float, N> lookup8(const std::array<float, 8> &table, Pack<std::
     const __m256 eight = _mm256_loadu_ps(table.data());
     Pack<float, N> r;
     each_register<N>([&](int i) { r.v[i] = _mm256_permutevar8x32_ps(eight, index.v[i]); });
+    return r;
+}
+
+// 32-bit integers as floats, rounded to nearest.
+template <int N>
+QORL_INLINE Pack<float, N> to_float(Pack<std::int32_t, N> x) {
+    Pack<float, N> r;
+    each_register<N>([&](int i) { r.v[i] = _mm256_cvtepi32_ps(x.v[i]); });
     return r;
 }
 
