@@ -158,6 +158,20 @@ QORL_INLINE Pack<typename Lane<I>::Real, N> real(Pack<I, N> x) {
     return r;
 }
 
+// 64-bit lanes as pairs of floats, the low half first, and back: the same bits.
+template <int N>
+QORL_INLINE Pack<float, N> float_halves(Pack<std::int64_t, N> x) {
+    Pack<float, N> r;
+    each_register<N>([&](int i) { r.v[i] = _mm256_castsi256_ps(x.v[i]); });
+    return r;
+}
+template <int N>
+QORL_INLINE Pack<std::int64_t, N> join_halves(Pack<float, N> x) {
+    Pack<std::int64_t, N> r;
+    each_register<N>([&](int i) { r.v[i] = _mm256_castps_si256(x.v[i]); });
+    return r;
+}
+
 // Comparisons. Those of real numbers are quiet; the first four are false where an operand is NaN.
 #define QORL_COMPARE(name, predicate)                                                  \
     template <class T, int N>                                                          \
