@@ -48,6 +48,10 @@ inline constexpr std::string_view stream_functions[] = {
     "__huxRegisterGlobRODataReference",
     "__huxUnregisterGlobRODataReference",
     "__huxGenerateNewGlobalRODataTableEntryId",
+    // arithmetic of jumps
+    "__huxiPowMod",
+    "__huxiPowMod2P31M1",
+    "__huxiPowMod2P59",
     // processor
     "__huxCPUisAES",
     "__huxCPUisVAES",
