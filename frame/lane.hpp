@@ -139,6 +139,15 @@ struct Lane<std::int64_t> {
     using Real = double;
     static constexpr int count = 4;
     QORL_INLINE static Register broadcast(std::int64_t x) { return _mm256_set1_epi64x(x); }
+    QORL_INLINE static Register load(const std::int64_t *p) {
+        return _mm256_loadu_si256(reinterpret_cast<const __m256i *>(p));
+    }
+    QORL_INLINE static void store(std::int64_t *p, Register x) {
+        _mm256_storeu_si256(reinterpret_cast<__m256i *>(p), x);
+    }
+    QORL_INLINE static Register mul_low_halves(Register a, Register b) { return _mm256_mul_epu32(a, b); }
+    QORL_INLINE static Register swap_halves(Register a) { return _mm256_shuffle_epi32(a, 0xB1); }
+    QORL_INLINE static Register low_halves_from(Register a, Register b) { return _mm256_blend_epi32(b, a, 0x55); }
     QORL_INLINE static Register add(Register a, Register b) { return _mm256_add_epi64(a, b); }
     QORL_INLINE static Register sub(Register a, Register b) { return _mm256_sub_epi64(a, b); }
     QORL_INLINE static Register bit_and(Register a, Register b) { return _mm256_and_si256(a, b); }
@@ -156,6 +165,14 @@ struct Lane<std::int32_t> {
     using Real = float;
     static constexpr int count = 8;
     QORL_INLINE static Register broadcast(std::int32_t x) { return _mm256_set1_epi32(x); }
+    QORL_INLINE static Register load(const std::int32_t *p) {
+        return _mm256_loadu_si256(reinterpret_cast<const __m256i *>(p));
+    }
+    QORL_INLINE static void store(std::int32_t *p, Register x) {
+        _mm256_storeu_si256(reinterpret_cast<__m256i *>(p), x);
+    }
+    QORL_INLINE static Register masked_load(const std::int32_t *p, __m256i m) { return _mm256_maskload_epi32(p, m); }
+    QORL_INLINE static void masked_store(std::int32_t *p, __m256i m, Register x) { _mm256_maskstore_epi32(p, m, x); }
     QORL_INLINE static Register add(Register a, Register b) { return _mm256_add_epi32(a, b); }
     QORL_INLINE static Register sub(Register a, Register b) { return _mm256_sub_epi32(a, b); }
     QORL_INLINE static Register bit_and(Register a, Register b) { return _mm256_and_si256(a, b); }
@@ -164,6 +181,7 @@ struct Lane<std::int32_t> {
     QORL_INLINE static Register shift_left(Register a, int k) { return _mm256_slli_epi32(a, k); }
     QORL_INLINE static Register shift_right(Register a, int k) { return _mm256_srli_epi32(a, k); }
     QORL_INLINE static Register shift_right_signed(Register a, int k) { return _mm256_srai_epi32(a, k); }
+    QORL_INLINE static Register mul_high_halves(Register a, Register b) { return _mm256_mulhi_epu16(a, b); }
     QORL_INLINE static Register greater(Register a, Register b) { return _mm256_cmpgt_epi32(a, b); }
     QORL_INLINE static Register equal(Register a, Register b) { return _mm256_cmpeq_epi32(a, b); }
 };

@@ -85,6 +85,15 @@ struct Pack {
         each_register<N>([&](int i) { r.v[i] = Ops::shift_right_signed(a.v[i], k); });
         return r;
     }
+
+    // 32-bit integers as two halves of 16 bits: the high halves of their unsigned products.
+    QORL_INLINE friend Pack mul_high_halves(Pack a, Pack b) { return map<Ops::mul_high_halves>(a, b); }
+
+    // 64-bit integers as two halves of 32 bits: the whole unsigned product of the low halves; the halves swapped; the
+    // low halves of a with the high ones of b.
+    QORL_INLINE friend Pack mul_low_halves(Pack a, Pack b) { return map<Ops::mul_low_halves>(a, b); }
+    QORL_INLINE friend Pack swap_halves(Pack a) { return map<Ops::swap_halves>(a); }
+    QORL_INLINE friend Pack low_halves_from(Pack a, Pack b) { return map<Ops::low_halves_from>(a, b); }
 };
 
 template <class T, int N>
@@ -142,6 +151,13 @@ QORL_INLINE Pack<T, 1> load_first(const T *p, FirstLanes<T> first, T safe) {
 template <class T>
 QORL_INLINE void store_first(T *p, FirstLanes<T> first, Pack<T, 1> x) {
     Lane<T>::masked_store(p, first.mask, x.v[0]);
+}
+
+// The first lanes of one register of 32-bit integers; the others are zero.
+QORL_INLINE Pack<std::int32_t, 1> load_first(const std::int32_t *p, FirstLanes<std::int32_t> first) {
+    Pack<std::int32_t, 1> r;
+    r.v[0] = Lane<std::int32_t>::masked_load(p, first.mask);
+    return r;
 }
 
 // Bits of real numbers as integers of their width, and back.
@@ -293,6 +309,57 @@ template <int N>
 QORL_INLINE Pack<float, N> to_float(Pack<std::int32_t, N> x) {
     Pack<float, N> r;
     each_register<N>([&](int i) { r.v[i] = _mm256_cvtepi32_ps(x.v[i]); });
+    return r;
+}
+
+// 32-bit words as doubles, exactly: signed, and unsigned. Register 2 i and 2 i + 1 of the wide pack are the halves of
+// register i.
+template <int N>
+QORL_INLINE Pack<double, 2 * N> to_double(Pack<std::int32_t, N> x) {
+    Pack<double, 2 * N> r;
+    each_register<N>([&](int i) {
+        r.v[2 * i] = _mm256_cvtepi32_pd(_mm256_castsi256_si128(x.v[i]));
+        r.v[2 * i + 1] = _mm256_cvtepi32_pd(_mm256_extracti128_si256(x.v[i], 1));
+    });
+    return r;
+}
+template <int N>
+QORL_INLINE Pack<double, 2 * N> unsigned_to_double(Pack<std::int32_t, N> x) {
+    Pack<std::int64_t, 2 * N> wide;
+    each_register<N>([&](int i) {
+        wide.v[2 * i] = _mm256_cvtepu32_epi64(_mm256_castsi256_si128(x.v[i]));
+        wide.v[2 * i + 1] = _mm256_cvtepu32_epi64(_mm256_extracti128_si256(x.v[i], 1));
+    });
+    return real(wide | 0x4330000000000000) - 0x1p52;  // 2^52 + x, then x
+}
+// Unsigned 64-bit integers as doubles, rounded to nearest: x = h 2^32 + l, of which 2^84 + h 2^32 and 2^52 + l are
+// written down; the subtraction is exact, the sum is rounded.
+template <int N>
+QORL_INLINE Pack<double, N> unsigned_to_double(Pack<std::int64_t, N> x) {
+    const auto high = real(shift_right(x, 32) | 0x4530000000000000);
+    const auto low = real(low_halves_from(x, 0x4330000000000000));
+    return (high - (0x1p84 + 0x1p52)) + low;
+}
+// The low halves of 64-bit integers, in order.
+template <int N>
+QORL_INLINE Pack<std::int32_t, N / 2> low_halves(Pack<std::int64_t, N> x) {
+    static_assert(N % 2 == 0);
+    Pack<std::int32_t, N / 2> r;
+    each_register<N / 2>([&](int i) {
+        const __m256 a = _mm256_castsi256_ps(x.v[2 * i]), b = _mm256_castsi256_ps(x.v[2 * i + 1]);
+        r.v[i] = _mm256_permute4x64_epi64(_mm256_castps_si256(_mm256_shuffle_ps(a, b, 0x88)), 0xD8);
+    });
+    return r;
+}
+// Lanes of a beside those of b, as words: two registers, a0 b0 a2 b2 and a1 b1 a3 b3, for each of a and b. That is a
+// sequence of pairs whose members stand in lanes 0, 2, 1, 3.
+template <int N>
+QORL_INLINE Pack<std::int32_t, 2 * N> pair_lanes(Pack<std::int64_t, N> a, Pack<std::int64_t, N> b) {
+    Pack<std::int32_t, 2 * N> r;
+    each_register<N>([&](int i) {
+        r.v[2 * i] = _mm256_unpacklo_epi64(a.v[i], b.v[i]);
+        r.v[2 * i + 1] = _mm256_unpackhi_epi64(a.v[i], b.v[i]);
+    });
     return r;
 }
 

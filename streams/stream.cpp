@@ -8,9 +8,6 @@
 namespace qorl {
 namespace {
 
-// Methods of a generator's `init`.
-constexpr std::int32_t method_initialise = 0, method_leapfrog = 1, method_skip_ahead = 2, method_skip_ahead_long = 3;
-
 constexpr bool is_abstract(std::int32_t id) {
     return id == family_id(row_iAbstract) || id == family_id(row_dAbstract) || id == family_id(row_sAbstract);
 }

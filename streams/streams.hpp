@@ -16,6 +16,10 @@ namespace qorl {
 
 inline constexpr std::size_t stream_alignment = 128;
 
+// Methods of a generator's `init`.
+inline constexpr std::int32_t method_initialise = 0, method_leapfrog = 1, method_skip_ahead = 2,
+                              method_skip_ahead_long = 3;
+
 // Rows of __RegBrngsNew by the names of the generators.
 #define QORL_GENERATOR(row, name, ...) row_##name = row,
 enum GeneratorRow : std::int32_t {
