@@ -5,6 +5,8 @@
 #include <stdexcept>
 #include <utility>
 
+#include "frame/call.hpp"
+
 namespace qorl::reference {
 namespace {
 
@@ -45,60 +47,27 @@ void Library::silence_errors() const {
 
 template <class T>
 std::vector<std::vector<T>> run(const Entry &entry, void *kernel, std::span<const T> a, std::span<const T> b) {
-    const auto n = static_cast<std::int32_t>(a.size());
+    const KernelCaller<T> caller = kernel_caller<T>(entry.shape, entry.form);
+    if (caller == nullptr) throw std::logic_error("this shape has no reference");
     const std::size_t size = a.size();
+    const bool strided = entry.form == Form::strided;
+    qorl::Arguments<T> arguments{{a.data(), b.data()}, {}};
+    if (inputs(entry.shape) == 1 && !b.empty()) arguments.scalar[0] = b[0];
+    std::vector<T> spread_in[2], out[2];
+    for (int k = 0; k < inputs(entry.shape) && strided; ++k) {
+        const int stride = arguments.in_stride[k] = k == 0 ? 2 : 5;
+        spread_in[k] = spread(k == 0 ? a : b, stride);
+        arguments.in[k] = spread_in[k].data();
+    }
+    for (int k = 0; k < outputs(entry.shape); ++k) {
+        const int stride = arguments.out_stride[k] = strided ? 3 + k : 1;
+        out[k].resize(size * static_cast<std::size_t>(stride));
+        arguments.out[k] = out[k].data();
+    }
+    caller(kernel, static_cast<std::int32_t>(size), arguments);
     std::vector<std::vector<T>> results;
-    if (entry.form == Form::unit) {
-        std::vector<T> y(size), z(entry.shape == Shape::two_results ? size : 0);
-        switch (entry.shape) {
-            case Shape::unary:
-                reinterpret_cast<void (*)(std::int32_t, const T *, T *)>(kernel)(n, a.data(), y.data());
-                break;
-            case Shape::two_results:
-                reinterpret_cast<void (*)(std::int32_t, const T *, T *, T *)>(kernel)(n, a.data(), y.data(), z.data());
-                break;
-            case Shape::binary:
-                reinterpret_cast<void (*)(std::int32_t, const T *, const T *, T *)>(kernel)(n, a.data(), b.data(),
-                                                                                            y.data());
-                break;
-            case Shape::unary_param:
-            case Shape::array_scalar:
-                if (n > 0)
-                    reinterpret_cast<void (*)(std::int32_t, const T *, T, T *)>(kernel)(n, a.data(), b[0], y.data());
-                break;
-            default:
-                throw std::logic_error("this shape has no reference");
-        }
-        results.push_back(std::move(y));
-        if (!z.empty()) results.push_back(std::move(z));
-        return results;
-    }
-    const std::vector<T> as = spread(a, 2), bs = entry.shape == Shape::binary ? spread(b, 5) : std::vector<T>();
-    std::vector<T> y(size * 3 + 1), z(entry.shape == Shape::two_results ? size * 4 + 1 : 0);
-    switch (entry.shape) {
-        case Shape::unary:
-            reinterpret_cast<void (*)(std::int32_t, const T *, std::int32_t, T *, std::int32_t)>(kernel)(
-                n, as.data(), 2, y.data(), 3);
-            break;
-        case Shape::two_results:
-            reinterpret_cast<void (*)(std::int32_t, const T *, std::int32_t, T *, std::int32_t, T *, std::int32_t)>(
-                kernel)(n, as.data(), 2, y.data(), 3, z.data(), 4);
-            break;
-        case Shape::binary:
-            reinterpret_cast<void (*)(std::int32_t, const T *, std::int32_t, const T *, std::int32_t, T *,
-                                      std::int32_t)>(kernel)(n, as.data(), 2, bs.data(), 5, y.data(), 3);
-            break;
-        case Shape::unary_param:
-        case Shape::array_scalar:
-            if (n > 0)
-                reinterpret_cast<void (*)(std::int32_t, const T *, std::int32_t, T, T *, std::int32_t)>(kernel)(
-                    n, as.data(), 2, b[0], y.data(), 3);
-            break;
-        default:
-            throw std::logic_error("this shape has no reference");
-    }
-    results.push_back(gather(y, size, 3));
-    if (entry.shape == Shape::two_results) results.push_back(gather(z, size, 4));
+    for (int k = 0; k < outputs(entry.shape); ++k)
+        results.push_back(strided ? gather(out[k], size, arguments.out_stride[k]) : std::move(out[k]));
     return results;
 }
 
