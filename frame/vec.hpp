@@ -312,6 +312,11 @@ QORL_INLINE Pack<float, N> to_float(Pack<std::int32_t, N> x) {
     return r;
 }
 
+// Integers from 0 to 2^52 - 1 as doubles, exactly: 2^52 + x is written down.
+template <int N>
+QORL_INLINE Pack<double, N> below_2_to_52_to_double(Pack<std::int64_t, N> x) {
+    return real(x | 0x4330000000000000) - 0x1p52;
+}
 // 32-bit words as doubles, exactly: signed, and unsigned. Register 2 i and 2 i + 1 of the wide pack are the halves of
 // register i.
 template <int N>
@@ -330,7 +335,7 @@ QORL_INLINE Pack<double, 2 * N> unsigned_to_double(Pack<std::int32_t, N> x) {
         wide.v[2 * i] = _mm256_cvtepu32_epi64(_mm256_castsi256_si128(x.v[i]));
         wide.v[2 * i + 1] = _mm256_cvtepu32_epi64(_mm256_extracti128_si256(x.v[i], 1));
     });
-    return real(wide | 0x4330000000000000) - 0x1p52;  // 2^52 + x, then x
+    return below_2_to_52_to_double(wide);
 }
 // Unsigned 64-bit integers as doubles, rounded to nearest: x = h 2^32 + l, of which 2^84 + h 2^32 and 2^52 + l are
 // written down; the subtraction is exact, the sum is rounded.

@@ -47,14 +47,15 @@ constexpr std::uint64_t mcg_product(std::uint64_t x, std::uint64_t y) {
     return p >= m ? p - m : p;
 }
 
-// Fills in all lanes and powers from the next number x and the multiplier a; 0 stands for that of a new stream.
+// Fills in all lanes and powers from the next number x and the multiplier a; 0 stands for that of a new stream. An x
+// that is not reduced, as only a file could bring, becomes so.
 template <McgKind kind>
 constexpr void rebuild_lanes(McgLanes &record, std::uint64_t x, std::uint64_t a) {
     if (a == 0) a = kind == McgKind::mcg31m1 ? mcg31m1_multiplier : mcg59_multiplier;
     record.kind = kind;
     std::uint64_t power = 1;  // of a
     for (int k = 0; k < 4; ++k) {
-        record.lanes[k] = k == 0 ? x : mcg_product<kind>(record.lanes[k - 1], a);
+        record.lanes[k] = k == 0 ? mcg_product<kind>(x, 1) : mcg_product<kind>(record.lanes[k - 1], a);
         power = mcg_product<kind>(power, a);
     }
     const std::uint64_t fourth = power;

@@ -37,6 +37,16 @@ struct UnsignedNumber {  // of 64 bits: rounded to double, then to the type
     }
 };
 
+struct Below2To52Number {  // of 64 bits, exact in double
+    template <class Real, int N>
+    QORL_INLINE static auto of(Pack<std::int64_t, N> words) {
+        if constexpr (std::is_same_v<Real, float>)
+            return narrow(below_2_to_52_to_double(words));
+        else
+            return below_2_to_52_to_double(words);
+    }
+};
+
 struct RealNumber {  // of generators that compute in double
     template <class Real, int N>
     QORL_INLINE static Pack<double, N> of(Pack<double, N> numbers) {
@@ -82,8 +92,8 @@ struct Scaled {
 };
 
 // u in [0, 1) is word * scale.
-template <class Real, class Stored = Real>
-constexpr Scaled<UnsignedNumber, Real, Stored> scaled_from(Real a, Real b, Real scale) {
+template <class Real, class Stored = Real, class Number = UnsignedNumber>
+constexpr Scaled<Number, Real, Stored> scaled_from(Real a, Real b, Real scale) {
     return {(b - a) * scale, a};
 }
 
