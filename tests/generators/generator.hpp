@@ -33,6 +33,7 @@ struct Generator {
 // Every generator that stands; a source a family.
 Generator mcg31m1();
 Generator mcg59();
+Generator r250();
 Generator ars5();
 Generator philox4x32x10();
 
