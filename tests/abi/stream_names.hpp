@@ -52,6 +52,10 @@ inline constexpr std::string_view stream_functions[] = {
     "__huxiPowMod",
     "__huxiPowMod2P31M1",
     "__huxiPowMod2P59",
+    "__huxiVect3PowMod",
+    "__huxiVect3PowArrayMod",
+    "__huxiVect3PowArrayMod_M1",
+    "__huxiVect3PowArrayMod_M2",
     // processor
     "__huxCPUisAES",
     "__huxCPUisVAES",
