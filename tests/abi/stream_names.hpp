@@ -56,6 +56,7 @@ inline constexpr std::string_view stream_functions[] = {
     "__huxiVect3PowArrayMod",
     "__huxiVect3PowArrayMod_M1",
     "__huxiVect3PowArrayMod_M2",
+    "__huxPolyRem",
     // processor
     "__huxCPUisAES",
     "__huxCPUisVAES",
