@@ -57,6 +57,8 @@ inline constexpr std::string_view stream_functions[] = {
     "__huxiVect3PowArrayMod_M1",
     "__huxiVect3PowArrayMod_M2",
     "__huxPolyRem",
+    "__hux_SkipAheadHorner",
+    "__hux_SkipAheadSWin",
     // processor
     "__huxCPUisAES",
     "__huxCPUisVAES",
