@@ -1,5 +1,5 @@
-// write_seeds FOLDER: writes saved streams for the fuzzer to begin with, one of each generator that stands, in each
-// layout.
+// write_seeds FOLDER: writes saved streams for the fuzzer to begin with, of each generator that stands, in each layout:
+// new ones and such that have stopped within a block.
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -35,12 +35,16 @@ Bytes older(const Bytes &image, std::uint8_t layout) {
 int main(int argc, char **argv) {
     if (argc != 2) return 2;
     qorl::test::toy_id();
-    for (std::int32_t row = 0; row < __huxGetNumRegBrngs(); ++row) {
+    for (std::int32_t seed = 0; seed < 2 * __huxGetNumRegBrngs(); ++seed) {
+        const std::int32_t row = seed / 2, before = seed % 2 * 37;
         const qorl::test::Stream stream(qorl::family_id(row), 7);
         if (stream.status != HuxStatusOk) continue;
+        double drawn[37];
+        qorl::properties_of(*stream.state).d(stream.state, before, drawn, 0, 1);
         Bytes image(static_cast<std::size_t>(__huxGetStreamSize(stream.state)));
         __huxSaveStreamM(stream.state, image.data());
-        const std::string path = std::string(argv[1]) + "/row" + std::to_string(row) + "_layout";
+        const std::string path =
+            std::string(argv[1]) + "/row" + std::to_string(row) + "_after" + std::to_string(before) + "_layout";
         if (!write(path + "2", image) || !write(path + "1", older(image, 1)) || !write(path + "0", older(image, 0))) {
             std::fprintf(stderr, "cannot write %s\n", path.c_str());
             return 1;
