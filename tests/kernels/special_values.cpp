@@ -172,8 +172,9 @@ TEST_P(NaN, KeepsItsPayloadAndIsQuietedAndRaisesNothing) {
 
 class Parity : public Special {};
 
-constexpr const char *odd_functions = "Sin Tan Asin Atan Sinh Tanh Asinh Atanh Cbrt Erf ErfInv Sinpi Tanpi Sind Tand";
-constexpr const char *even_functions = "Abs Cos Cosh Cospi Cosd Sqr";
+constexpr const char *odd_functions =
+    "Sin Tan Asin Atan Sinh Tanh Asinh Atanh Cbrt InvCbrt Erf ErfInv Sinpi Tanpi Sind Tand";
+constexpr const char *even_functions = "Abs Cos Cosh Cospi Cosd Sqr Pow2o3";
 
 TEST_P(Parity, HoldsBitForBit) {
     const Function &function = GetParam();
@@ -205,7 +206,9 @@ TEST_P(Parity, HoldsBitForBit) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Landed, Special, testing::ValuesIn(functions), case_name);
-INSTANTIATE_TEST_SUITE_P(Landed, NaN, testing::ValuesIn(landed("Exp Exp2 Exp10 Expm1 Cosh Sinh Tanh")), case_name);
+INSTANTIATE_TEST_SUITE_P(Landed, NaN,
+                         testing::ValuesIn(landed("Exp Exp2 Exp10 Expm1 Cosh Sinh Tanh Cbrt InvCbrt Pow2o3")),
+                         case_name);
 INSTANTIATE_TEST_SUITE_P(Odd, Parity, testing::ValuesIn(landed(odd_functions)), case_name);
 INSTANTIATE_TEST_SUITE_P(Even, Parity, testing::ValuesIn(landed(even_functions)), case_name);
 
