@@ -7,6 +7,7 @@
 #define QORL_FRAME_VEC_HPP
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <type_traits>
@@ -295,13 +296,17 @@ class RowLookup {
     std::uintptr_t base_;
     std::array<std::uintptr_t, 4> at_[N];
 };
-// One of eight floats, by the low three bits of each index.
+// One of eight floats or 32-bit integers, by the low three bits of each index.
 template <int N>
 QORL_INLINE Pack<float, N> lookup8(const std::array<float, 8> &table, Pack<std::int32_t, N> index) {
     const __m256 eight = _mm256_loadu_ps(table.data());
     Pack<float, N> r;
     each_register<N>([&](int i) { r.v[i] = _mm256_permutevar8x32_ps(eight, index.v[i]); });
     return r;
+}
+template <int N>
+QORL_INLINE Pack<std::int32_t, N> lookup8(const std::array<std::int32_t, 8> &table, Pack<std::int32_t, N> index) {
+    return bits(lookup8(std::bit_cast<std::array<float, 8>>(table), index));
 }
 
 // 32-bit integers as floats, rounded to nearest.
@@ -385,6 +390,46 @@ QORL_INLINE Pack<float, N / 2> narrow(Pack<double, N> x) {
     each_register<N / 2>(
         [&](int i) { r.v[i] = _mm256_setr_m128(_mm256_cvtpd_ps(x.v[2 * i]), _mm256_cvtpd_ps(x.v[2 * i + 1])); });
     return r;
+}
+
+// Doubles put together from two 32-bit words, and taken apart again, by instructions that stay inside the halves of a
+// register: the lanes of register i of the words are 0 1 4 5 of register 2 i of the doubles, then 2 3 6 7 of the next.
+template <int N>
+QORL_INLINE Pack<double, 2 * N> join_words(Pack<std::int32_t, N> low, Pack<std::int32_t, N> high) {
+    Pack<double, 2 * N> r;
+    each_register<N>([&](int i) {
+        r.v[2 * i] = _mm256_castsi256_pd(_mm256_unpacklo_epi32(low.v[i], high.v[i]));
+        r.v[2 * i + 1] = _mm256_castsi256_pd(_mm256_unpackhi_epi32(low.v[i], high.v[i]));
+    });
+    return r;
+}
+template <int Odd, int N>
+QORL_INLINE Pack<std::int32_t, N / 2> words(Pack<double, N> x) {
+    static_assert(N % 2 == 0);
+    constexpr int pick = Odd == 0 ? _MM_SHUFFLE(2, 0, 2, 0) : _MM_SHUFFLE(3, 1, 3, 1);
+    Pack<std::int32_t, N / 2> r;
+    each_register<N / 2>([&](int i) {
+        const __m256 first = _mm256_castpd_ps(x.v[2 * i]), second = _mm256_castpd_ps(x.v[2 * i + 1]);
+        r.v[i] = _mm256_castps_si256(_mm256_shuffle_ps(first, second, pick));
+    });
+    return r;
+}
+template <int N>
+QORL_INLINE Pack<std::int32_t, N / 2> low_words(Pack<double, N> x) {
+    return words<0>(x);
+}
+template <int N>
+QORL_INLINE Pack<std::int32_t, N / 2> high_words(Pack<double, N> x) {
+    return words<1>(x);
+}
+// Single to double precision in the order of join_words.
+template <int N>
+QORL_INLINE Pack<double, 2 * N> widen_as_joined(Pack<float, N> x) {
+    each_register<N>([&](int i) {
+        const __m256d pairs = _mm256_castps_pd(x.v[i]);
+        x.v[i] = _mm256_castpd_ps(_mm256_permute4x64_pd(pairs, _MM_SHUFFLE(3, 1, 2, 0)));
+    });
+    return widen(x);
 }
 
 }  // namespace qorl
