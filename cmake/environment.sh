@@ -7,7 +7,7 @@ packages=(
     g++ cmake ninja-build pkg-config clang-format
     libgtest-dev libmpfr-dev libflint-arb-dev libfmt-dev libcli11-dev nlohmann-json3-dev
     libopenblas-openmp-dev
-    libbenchmark-dev libsleef-dev libhwy-dev
+    libbenchmark-dev libsleef-dev libhwy-dev libgsl-dev librandom123-dev libntl-dev
 )
 
 logs=build/log
