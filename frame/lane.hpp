@@ -1,6 +1,6 @@
 // One 256-bit register of each element type: what the instructions are called, under one set of names.
 //
-// Only frame/vec.hpp and frame/aes.hpp build on this; intrinsics stand in these three files alone.
+// Only frame/vec.hpp and frame/aes.hpp build on this; intrinsics stand in these files and frame/carryless.hpp alone.
 #ifndef QORL_FRAME_LANE_HPP
 #define QORL_FRAME_LANE_HPP
 

@@ -126,8 +126,18 @@ class Output {
         alignas(32) Element buffer[elements.lanes];
         store(buffer, elements);
         const std::size_t bytes = static_cast<std::size_t>(k) * sizeof(Element);
-        std::memcpy(r_, buffer, bytes);
-        r_ += bytes;
+        // By pieces of known size: copying a number of bytes that is not known takes many times as long.
+        const auto *from = reinterpret_cast<const std::byte *>(buffer);
+        std::byte *to = r_;
+        const auto piece = [&]<std::size_t Bytes> {
+            std::memcpy(to, from, Bytes);
+            to += Bytes, from += Bytes;
+        };
+        for (std::size_t left = bytes / 32; left > 0; --left) piece.template operator()<32>();
+        if ((bytes & 16) != 0) piece.template operator()<16>();
+        if ((bytes & 8) != 0) piece.template operator()<8>();
+        if ((bytes & 4) != 0) piece.template operator()<4>();
+        r_ = to;
     }
 
   private:
