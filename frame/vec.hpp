@@ -104,6 +104,22 @@ struct Mask {  // T real; all bits of a lane are set or clear, of a sign mask th
     QORL_INLINE friend Mask operator&(Mask a, Mask b) { return {a.lanes & b.lanes}; }
 };
 
+// Registers From .. From + Count - 1 of a pack, and two packs in a row.
+template <int From, int Count, class T, int N>
+QORL_INLINE Pack<T, Count> registers(Pack<T, N> x) {
+    static_assert(From + Count <= N);
+    Pack<T, Count> r;
+    each_register<Count>([&](int i) { r.v[i] = x.v[From + i]; });
+    return r;
+}
+template <class T, int M, int N>
+QORL_INLINE Pack<T, M + N> join(Pack<T, M> a, Pack<T, N> b) {
+    Pack<T, M + N> r;
+    each_register<M>([&](int i) { r.v[i] = a.v[i]; });
+    each_register<N>([&](int i) { r.v[M + i] = b.v[i]; });
+    return r;
+}
+
 // Reads and writes. The strided forms take their data from memory straight into vectors and back.
 template <int N, class T>
 QORL_INLINE Pack<T, N> load(const T *p) {

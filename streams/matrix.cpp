@@ -14,18 +14,12 @@
 namespace qorl {
 namespace {
 
-// Entries below the modulus. For a modulus that is a constant of the type the compiler divides by multiplication.
+// Matrices of nine words by rows, and vectors of three.
 template <class Modulus>
-struct Arithmetic {
-    Modulus m;
+struct MatrixArithmetic : ModularArithmetic<Modulus> {
+    using ModularArithmetic<Modulus>::sum;
+    using ModularArithmetic<Modulus>::product;
 
-    std::uint32_t sum(std::uint32_t a, std::uint32_t b) const {
-        const std::uint64_t r = std::uint64_t{a} + b;
-        return static_cast<std::uint32_t>(r >= m() ? r - m() : r);
-    }
-    std::uint32_t product(std::uint32_t a, std::uint32_t b) const {
-        return static_cast<std::uint32_t>(std::uint64_t{a} * b % m());
-    }
     std::uint32_t row_times(const std::uint32_t *row, const std::uint32_t *v, int stride) const {
         return sum(sum(product(row[0], v[0]), product(row[1], v[stride])), product(row[2], v[2 * stride]));
     }
@@ -41,22 +35,12 @@ struct Arithmetic {
     }
 };
 
-struct AnyModulus {
-    std::uint32_t value;
-    std::uint64_t operator()() const { return value; }
-};
-
-template <std::uint32_t Value>
-struct FixedModulus {
-    constexpr std::uint64_t operator()() const { return Value; }
-};
-
-// Rows of three words; two of them, for the power that is in use and the next one.
 using Matrix = std::uint32_t[9];
 
+// The work is on two matrices, the power that is in use and the next one.
 void power_times(std::uint32_t *v, const std::uint32_t *row, std::uint32_t m, std::int32_t words,
                  const std::uint64_t *n, Matrix *work) {
-    const Arithmetic<AnyModulus> mod{{m}};
+    const MatrixArithmetic<AnyModulus> mod{{{m}}};
     std::uint32_t *power = work[0], *next = work[1];
     const Matrix companion = {0, 1, 0, 0, 0, 1, row[2], row[1], row[0]};
     std::copy_n(companion, 9, power);
@@ -73,7 +57,7 @@ void power_times(std::uint32_t *v, const std::uint32_t *row, std::uint32_t m, st
 
 template <std::uint32_t M>
 void table_power_times(std::uint32_t *v, std::int32_t words, const std::uint64_t *n, const std::uint32_t *table) {
-    const Arithmetic<FixedModulus<M>> mod{};
+    const MatrixArithmetic<FixedModulus<M>> mod{};
     for (std::int32_t word = 0; word < words; ++word)
         for (int bit = 0; bit < 64; ++bit, table += 9)
             if ((n[word] >> bit & 1) != 0) mod.apply(table, v);

@@ -34,6 +34,7 @@ struct Generator {
 Generator mcg31m1();
 Generator mcg59();
 Generator r250();
+Generator mrg32k3a();
 Generator ars5();
 Generator philox4x32x10();
 

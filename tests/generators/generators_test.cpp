@@ -15,7 +15,7 @@ namespace qorl::test {
 namespace {
 
 std::vector<Generator> generators() {
-    return {mcg31m1(), mcg59(), r250(), ars5(), philox4x32x10()};
+    return {mcg31m1(), mcg59(), r250(), mrg32k3a(), ars5(), philox4x32x10()};
 }
 
 // All that can be drawn from one position. The numbers are compared as bits.
