@@ -91,13 +91,19 @@ T Sampler<T>::partner(T a, Random &random) const {
     const auto choice = random() % 4;
     if (choice == 0 || domains_.pairing == Pairing::independent) return draw(domains_.b, random);
     if (domains_.pairing == Pairing::power) {
-        // a^b = 2^result, near the ends of the format and of the denormals as often as anywhere between.
-        constexpr double high = std::numeric_limits<T>::max_exponent;
-        constexpr double low = std::numeric_limits<T>::min_exponent - std::numeric_limits<T>::digits;
+        // a^b = 2^result, near the ends of the format and of the denormals as often as anywhere between; b is often an
+        // integer or half of one, which exact and nearly exact results come from.
+        using L = std::numeric_limits<T>;
+        constexpr double high = L::max_exponent, low = L::min_exponent - L::digits;
+        constexpr double ends[] = {high, L::min_exponent - 1, low, low - 1};
         const double result =
-            choice == 1 ? with_sign(high, random) + between({-2, 2}, random) : between({low - 2, high + 1}, random);
-        const T b = static_cast<T>(result / std::log2(std::fabs(static_cast<double>(a))));
-        return std::isfinite(b) ? (a < 0 ? std::nearbyint(b) : b) : draw(domains_.b, random);
+            choice == 1 ? ends[random() % 4] + between({-2, 2}, random) : between({low - 2, high + 1}, random);
+        const double b = result / std::log2(std::fabs(static_cast<double>(a)));
+        const auto rounding = random() % 4;
+        const T rounded = static_cast<T>(a < 0 || rounding == 0 ? std::nearbyint(b)
+                                         : rounding == 1        ? std::nearbyint(2 * b) / 2
+                                                                : b);
+        return std::isfinite(rounded) ? rounded : draw(domains_.b, random);
     }
     if (choice == 1) return step(a, static_cast<std::int64_t>(random() % 65) - 32);
     const double scale = choice == 2 ? between({-3, 3}, random) : between({-70, 70}, random);
