@@ -24,42 +24,23 @@
 #include <CLI/CLI.hpp>
 #include <cmath>
 #include <cstdio>
-#include <cstring>
-#include <regex>
 #include <string>
 #include <vector>
 
 #include "bench/contest.hpp"
 #include "bench/heat.hpp"
 #include "bench/peers.hpp"
-#include "qorl/core.h"
+#include "bench/report.hpp"
 
 namespace {
 
 using namespace qorl::bench;
 
-constexpr double loud = 1.3;  // from here on the median of the runs says that the machine was busy
-
-constexpr const char *registration_suffix = "/iterations:1/manual_time";  // what Google Benchmark adds to the names
-
-// The filter as Google Benchmark reads it: an extended regular expression, a leading minus inverts it.
-class Filter {
-  public:
-    explicit Filter(std::string text) : inverted_(text.starts_with('-')) {
-        if (inverted_) text.erase(0, 1);
-        if (text.empty() || text == "all") text = ".";
-        pattern_.assign(text, std::regex::extended);
-    }
-    bool matches(const Heat &heat) const {
-        for (const Entrant &one : heat.entrants())
-            if (std::regex_search(one.name + registration_suffix, pattern_) != inverted_) return true;
-        return false;
-    }
-
-  private:
-    bool inverted_;
-    std::regex pattern_;
-};
+bool matches(const Filter &filter, const Heat &heat) {
+    for (const Entrant &one : heat.entrants())
+        if (filter.matches(one.name)) return true;
+    return false;
+}
 
 void report(benchmark::State &state, const Heat &heat, std::size_t index) {
     const Entrant &one = heat.entrants()[index];
@@ -77,13 +58,9 @@ void report(benchmark::State &state, const Heat &heat, std::size_t index) {
 }  // namespace
 
 int main(int argc, char **argv) {
-    if (!qorl_serv_processor_has(QORL_PROCESSOR_AVX2_FMA)) {
-        std::fputs("bench_vector_math: this processor has no AVX2 and FMA, without which the library can't run\n",
-                   stderr);
-        return 1;
-    }
-    bool list_only = false;
-    for (int i = 1; i < argc; ++i) list_only = list_only || std::strncmp(argv[i], "--benchmark_list_tests", 22) == 0;
+    constexpr const char *program = "bench_vector_math";
+    if (!processor_will_do(program)) return 1;
+    const bool list_only = asks_for_list(argc, argv);
     benchmark::Initialize(&argc, argv);
 
     ContestOptions contest;
@@ -100,39 +77,24 @@ int main(int argc, char **argv) {
     app.add_flag("--all", options.absent, "Also run functions that the library does not have yet, peers alone");
     CLI11_PARSE(app, argc, argv);
 
-    for (const std::string &peer : missing_peers())
-        std::fprintf(stderr, "bench_vector_math: without %s\n", peer.c_str());
+    for (const std::string &peer : missing_peers()) std::fprintf(stderr, "%s: without %s\n", program, peer.c_str());
 
     std::vector<Heat> heats = all_heats(options);
     if (heats.empty()) std::fputs("bench_vector_math: the library has no kernels yet; --all runs the peers\n", stderr);
 
     if (!list_only) {
-        const Filter filter(benchmark::GetBenchmarkFilter());
+        const Filter filter;
         std::vector<Heat *> selected;
         for (Heat &heat : heats)
-            if (filter.matches(heat)) selected.push_back(&heat);
+            if (matches(filter, heat)) selected.push_back(&heat);
         const int pinned = pin_to_processor(cpu);
         const Clock clock = run_heats(selected, contest);
 
-        int noisy = 0, rows = 0;
+        Noise noise;
         for (const Heat *heat : selected)
-            for (const Entrant &one : heat->entrants()) ++rows, noisy += one.spread > loud;
-        if (noisy * 10 > rows || clock.spread > loud)
-            std::fprintf(
-                stderr,
-                "bench_vector_math: the machine was busy: %d of %d rows had a median more than %.1f times their"
-                " minimum; run again before you trust small differences\n",
-                noisy, rows, loud);
-        const auto context = [](const char *key, double value) {
-            char text[32];
-            std::snprintf(text, sizeof text, "%.3f", value);
-            benchmark::AddCustomContext(key, text);
-        };
-        benchmark::AddCustomContext("processor", processor_name());
-        benchmark::AddCustomContext("cpu", pinned < 0 ? "not pinned" : std::to_string(pinned));
-        context("ghz_core", clock.ticks_per_nanosecond / clock.ticks_per_clock);
-        context("ghz_counter", clock.ticks_per_nanosecond);
-        context("spread_chain", clock.spread);
+            for (const Entrant &one : heat->entrants()) noise.add(one.spread);
+        noise.report(program, clock);
+        add_context(clock, pinned);
         for (const auto &[peer, version] : peer_versions()) benchmark::AddCustomContext(peer, version);
     }
     for (const Heat &heat : heats)

@@ -4,6 +4,11 @@
 //   bench_vector_math --benchmark_out=speed.json
 //   summary --accuracy accuracy.json --speed speed.json [--output docs/performance.md]
 //
+// and what bench_streams measured as docs/performance_streams.md:
+//
+//   bench_streams --benchmark_out=streams.json
+//   summary --streams streams.json [--output docs/performance_streams.md]
+//
 // The rows of the speed file are described at the head of bench/bench_vector_math.cpp. Of the accuracy file the members
 // function, type, level, ulp and bits of each object are read; ulp and bits may be null.
 #include <fmt/format.h>
@@ -22,6 +27,7 @@
 #include <vector>
 
 #include "frame/entries.hpp"
+#include "streams.hpp"
 
 namespace {
 
@@ -269,27 +275,38 @@ json read(const std::string &path) {
     return json::parse(in);
 }
 
+void write(const std::string &path, const std::string &text) {
+    std::ofstream out(path);
+    out << text;
+    if (!out.flush()) throw std::runtime_error("can't write " + path);
+}
+
 }  // namespace
 
 int main(int argc, char **argv) {
     CLI::App app("Prints what the accuracy program and the benchmark measured as one table.");
-    std::string speed, accuracy, output;
-    app.add_option("--speed", speed, "JSON of bench_vector_math")->required()->check(CLI::ExistingFile);
+    std::string speed, accuracy, streams, output;
+    CLI::Option_group *const source = app.add_option_group("Measured");
+    source->add_option("--speed", speed, "JSON of bench_vector_math")->check(CLI::ExistingFile);
+    source->add_option("--streams", streams, "JSON of bench_streams")->check(CLI::ExistingFile);
+    source->require_option(1);
     app.add_option("--accuracy", accuracy,
                    "JSON of accuracy; without it the errors on the benchmark's arguments are shown")
         ->check(CLI::ExistingFile);
     app.add_option("-o,--output", output, "Also write the performance document to this file");
     CLI11_PARSE(app, argc, argv);
     try {
+        if (!streams.empty()) {
+            const std::string document = qorl::summary::streams_document(read(streams));
+            fmt::print("{}", document);
+            if (!output.empty()) write(output, document);
+            return 0;
+        }
         const Summary summary(read(speed), accuracy.empty() ? json::array() : read(accuracy));
         fmt::print("{}", summary.table());
         if (const int slower = summary.slower(); slower > 0)
             fmt::print("Rows slower than the peer they are compared with: {}.\n", slower);
-        if (!output.empty()) {
-            std::ofstream out(output);
-            out << summary.document();
-            if (!out.flush()) throw std::runtime_error("can't write " + output);
-        }
+        if (!output.empty()) write(output, summary.document());
     } catch (const std::exception &error) {
         fmt::print(stderr, "summary: {}\n", error.what());
         return 1;
