@@ -3,13 +3,11 @@
 // Method  Four lanes of 64 bits hold the next four values x a^k. Multiplied by the powers a^4, a^8, ... they give the
 //         values behind them, up to 32 in a pass, and by a^32 the lanes of the next pass. A product modulo 2^31 - 1 is
 //         folded twice at bit 31, 2^31 being 1: from below 2^62 to below 2^32 - 4, then to below 2^31; the modulus
-//         itself cannot come out, as neither factor is a multiple of that prime. Of a product modulo 2^59, AVX2 has no
-//         64-bit multiplication, the three partial products below 2^64 are taken.
-// Streams d and s draw from the lanes kept in a chunk, and put lane 0 into x; i draws from x and leaves the lanes
-// alone, so
-//         that i is a position of its own from which the others do not continue. Leapfrog and skip-ahead move x and
-//         rebuild the lanes from it.
-#include <algorithm>
+//         itself cannot come out, as neither factor is a multiple of that prime. A product modulo 2^59 is added up from
+//         the three products of halves that reach below bit 64, since AVX2 multiplies 32 bits.
+//         d and s draw from the lanes, which a chunk keeps, and put lane 0 into x. i draws from x and leaves the lanes
+//         alone, so that it has a position of its own, from which d and s do not continue. Leapfrog and skip-ahead move
+//         x and rebuild the lanes from it.
 #include <cstdint>
 #include <cstring>
 #include <new>
@@ -190,7 +188,7 @@ std::int32_t draw_integers(StreamState *stream, std::int32_t n, void *r) {
     using Word = decltype(state.x);
     const std::uint64_t a = multiplier_of<kind>(state);
     state.x = static_cast<Word>(mcg_product<kind>(state.x, 1));  // from a file it may not be reduced
-    if (n < pass) {  // lanes and powers of their own are not worth while
+    if (n < pass) {                                              // lanes and powers of their own are not worth while
         for (auto *to = static_cast<Word *>(r); n > 0; --n, state.x = static_cast<Word>(mcg_product<kind>(state.x, a)))
             std::memcpy(to++, &state.x, sizeof state.x);
         return HuxStatusOk;

@@ -1,9 +1,8 @@
 // R250: w(n) = w(n - 250) ^ w(n - 147) on words of 32 bits.
 //
-// Method  The ring holds the last 250 words, the oldest at i; the word at j, 103 behind i round the ring, is w(n -
-// 147). Up to
-//         where i or j comes round, the words of a pass of 16 do not depend on each other, since i and j are further
-//         apart than that.
+// Method  The ring holds the last 250 words, the oldest at i; the word at j, 103 places on, is w(n - 147). Up to where
+//         i or j comes round, the words of a pass of 16 do not depend on each other, since i and j are further apart
+//         than that.
 // Source  Kirkpatrick and Stoll, "A very fast shift-register sequence random number generator", J. Comput. Phys. 40,
 //         1981, with the shifted bits of the start that make the words linearly independent.
 #include <algorithm>

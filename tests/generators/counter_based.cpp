@@ -93,6 +93,20 @@ TEST(CounterBased, LongSkipTakes192Bits) {
     }
 }
 
+// A state from outside may claim any number of words in its block: it has four.
+TEST(CounterBased, ABlockHasFourWordsWhateverAStateClaims) {
+    for (const std::uint32_t left : {4u, 5u, 0xFFFFFFFFu}) {
+        const Stream stream(family_id(row_PHILOX4X32X10), {1, 2});
+        stream.integers(1);
+        state_of<std::array<std::uint32_t, 12>>(stream.state)[6] = left;
+        Stream skipping;
+        ASSERT_EQ(__huxCopyStream(&skipping.state, stream.state), HuxStatusOk);
+        EXPECT_EQ(stream.integers(9), philox4x32x10().elements({1, 2}, 0, 9));
+        ASSERT_EQ(__huxSkipAheadStream(skipping.state, 5), HuxStatusOk);
+        EXPECT_EQ(skipping.integers(9), philox4x32x10().elements({1, 2}, 5, 9));
+    }
+}
+
 // After a skip that ends a block, the whole next block waits to be delivered.
 TEST(CounterBased, SkipsWithinABlockComputeNothing) {
     const Stream stream(family_id(row_PHILOX4X32X10), {1, 2});
