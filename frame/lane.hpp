@@ -44,6 +44,9 @@ struct Lane<double> {
     QORL_INLINE static Register round(Register a) {
         return _mm256_round_pd(a, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC);
     }
+    QORL_INLINE static Register truncate(Register a) {
+        return _mm256_round_pd(a, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC);
+    }
     QORL_INLINE static Register bit_and(Register a, Register b) { return _mm256_and_pd(a, b); }
     QORL_INLINE static Register bit_or(Register a, Register b) { return _mm256_or_pd(a, b); }
     QORL_INLINE static Register bit_xor(Register a, Register b) { return _mm256_xor_pd(a, b); }
@@ -96,6 +99,9 @@ struct Lane<float> {
     QORL_INLINE static Register reciprocal_sqrt_estimate(Register a) { return _mm256_rsqrt_ps(a); }
     QORL_INLINE static Register round(Register a) {
         return _mm256_round_ps(a, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC);
+    }
+    QORL_INLINE static Register truncate(Register a) {
+        return _mm256_round_ps(a, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC);
     }
     QORL_INLINE static Register bit_and(Register a, Register b) { return _mm256_and_ps(a, b); }
     QORL_INLINE static Register bit_or(Register a, Register b) { return _mm256_or_ps(a, b); }

@@ -65,6 +65,7 @@ struct Pack {
     QORL_INLINE friend Pack max(Pack a, Pack b) { return map<Ops::max>(a, b); }
     QORL_INLINE friend Pack abs(Pack a) { return map<Ops::bit_andnot>(Pack(T(-0.0)), a); }
     QORL_INLINE friend Pack round_to_int(Pack a) { return map<Ops::round>(a); }  // to nearest, ties to even
+    QORL_INLINE friend Pack truncate(Pack a) { return map<Ops::truncate>(a); }   // to an integer, towards 0
     // The processor's estimates of 1/a and 1/sqrt(a), relative error below 1.5 2^-12; of doubles through single
     // precision, so within its range. Their bits differ between makes of processor.
     QORL_INLINE friend Pack reciprocal_estimate(Pack a) { return map<Ops::reciprocal_estimate>(a); }
@@ -385,6 +386,22 @@ QORL_INLINE Pack<std::int32_t, 2 * N> pair_lanes(Pack<std::int64_t, N> a, Pack<s
     each_register<N>([&](int i) {
         r.v[2 * i] = _mm256_unpacklo_epi64(a.v[i], b.v[i]);
         r.v[2 * i + 1] = _mm256_unpackhi_epi64(a.v[i], b.v[i]);
+    });
+    return r;
+}
+
+// Whole numbers as 32-bit integers, one of each of the four packs in turn: a0 b0 c0 d0 a1 b1 c1 d1 ...
+template <int N>
+QORL_INLINE Pack<std::int32_t, 2 * N> interleave_integers(Pack<double, N> a, Pack<double, N> b, Pack<double, N> c,
+                                                          Pack<double, N> d) {
+    Pack<std::int32_t, 2 * N> r;
+    each_register<N>([&](int i) {
+        const __m128i ai = _mm256_cvttpd_epi32(a.v[i]), bi = _mm256_cvttpd_epi32(b.v[i]);
+        const __m128i ci = _mm256_cvttpd_epi32(c.v[i]), di = _mm256_cvttpd_epi32(d.v[i]);
+        const __m128i ab = _mm_unpacklo_epi32(ai, bi), cd = _mm_unpacklo_epi32(ci, di);  // of lanes 0 and 1
+        const __m128i ab_high = _mm_unpackhi_epi32(ai, bi), cd_high = _mm_unpackhi_epi32(ci, di);
+        r.v[2 * i] = _mm256_setr_m128i(_mm_unpacklo_epi64(ab, cd), _mm_unpackhi_epi64(ab, cd));
+        r.v[2 * i + 1] = _mm256_setr_m128i(_mm_unpacklo_epi64(ab_high, cd_high), _mm_unpackhi_epi64(ab_high, cd_high));
     });
     return r;
 }

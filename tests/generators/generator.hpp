@@ -35,6 +35,7 @@ Generator mcg31m1();
 Generator mcg59();
 Generator r250();
 Generator mrg32k3a();
+Generator wh(const char *name, int member);
 Generator ars5();
 Generator philox4x32x10();
 
