@@ -437,24 +437,43 @@ QORL_INLINE Pack<double, 2 * N> join_words(Pack<std::int32_t, N> low, Pack<std::
     return r;
 }
 template <int Odd, int N>
-QORL_INLINE Pack<std::int32_t, N / 2> words(Pack<double, N> x) {
-    static_assert(N % 2 == 0);
+QORL_INLINE Pack<std::int32_t, (N + 1) / 2> words(Pack<double, N> x) {  // the last of an odd number stands twice
     constexpr int pick = Odd == 0 ? _MM_SHUFFLE(2, 0, 2, 0) : _MM_SHUFFLE(3, 1, 3, 1);
-    Pack<std::int32_t, N / 2> r;
-    each_register<N / 2>([&](int i) {
-        const __m256 first = _mm256_castpd_ps(x.v[2 * i]), second = _mm256_castpd_ps(x.v[2 * i + 1]);
+    Pack<std::int32_t, (N + 1) / 2> r;
+    each_register<(N + 1) / 2>([&](int i) {
+        const __m256 first = _mm256_castpd_ps(x.v[2 * i]);
+        const __m256 second = _mm256_castpd_ps(x.v[2 * i + 1 < N ? 2 * i + 1 : 2 * i]);
         r.v[i] = _mm256_castps_si256(_mm256_shuffle_ps(first, second, pick));
     });
     return r;
 }
 template <int N>
-QORL_INLINE Pack<std::int32_t, N / 2> low_words(Pack<double, N> x) {
+QORL_INLINE Pack<std::int32_t, (N + 1) / 2> low_words(Pack<double, N> x) {
     return words<0>(x);
 }
 template <int N>
-QORL_INLINE Pack<std::int32_t, N / 2> high_words(Pack<double, N> x) {
+QORL_INLINE Pack<std::int32_t, (N + 1) / 2> high_words(Pack<double, N> x) {
     return words<1>(x);
 }
+// N registers of doubles from their high words, the low words zero.
+template <int N>
+QORL_INLINE Pack<double, N> from_high_words(Pack<std::int32_t, (N + 1) / 2> high) {
+    const auto joined = join_words(Pack<std::int32_t, (N + 1) / 2>(0), high);
+    Pack<double, N> r;
+    each_register<N>([&](int i) { r.v[i] = joined.v[i]; });
+    return r;
+}
+// What a test of doubles by their high words gives: a mask in the order of high_words. It takes half the instructions
+// of a test lane by lane, as long as only whether any lane is set is asked for.
+template <int N>
+struct HighWordMask {
+    Mask<float, (N + 1) / 2> words;
+
+    QORL_INLINE friend bool any(HighWordMask m) { return any(m.words); }
+    QORL_INLINE friend unsigned lane_bits(HighWordMask m) {
+        return lane_bits(Mask<double, N>{from_high_words<N>(bits(m.words.lanes))});
+    }
+};
 // Single to double precision in the order of join_words.
 template <int N>
 QORL_INLINE Pack<double, 2 * N> widen_as_joined(Pack<float, N> x) {
