@@ -36,18 +36,20 @@ inline double fnma(double a, double b, double c) {
     return std::fma(-a, b, c);
 }
 
-// s + s_low + log2(1 + u) to 2^-68 of its size, for |u| <= 1.38 2^-10; s is 0 or above log2(1 + u).
+// s + s_low + log2(1 + u) to 2^-68 of its size, for |u| <= 1.38 2^-10; s is 0 or above log2(1 + u). The product with
+// log2(e) is rounded before it is added: s - sum is a number of 53 bits then, which it is not after a fused sum where
+// an estimate of the reciprocal far off leaves s and u of opposite sign next to 1.
 template <class V>
 QORL_INLINE TwoWords<V> add_log2(V s, V s_low, V u) {
     using namespace tables;
     using std::fma;
     // log(1 + u) = u - u^2/2 + ...: the first two in two words, for the square is 2^-10 of u and its rounding would
-    // show
+    // show.
     const V half = V(0.5) * u, high = fnma(half, u, u);
     const V low = fma(half * u * u, horner(u, pow_ln_poly), fnma(half, u, u - high));
-    // Every difference of a sum and its larger term is exact, and so the fused step leaves the error of the sum.
-    const V sum = fma(high, V(pow_log2_e), s);
-    const V error = fma(high, V(pow_log2_e), s - sum) + s_low;
+    const V product = high * V(pow_log2_e);
+    const V sum = s + product;
+    const V error = fms(high, V(pow_log2_e), product) + (((s - sum) + product) + s_low);
     return {sum, fma(low, V(pow_log2_e), fma(high, V(pow_log2_e_low), error))};
 }
 

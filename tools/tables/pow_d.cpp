@@ -1,3 +1,7 @@
+#include <bit>
+#include <cstdint>
+#include <cstdlib>
+
 #include "tools/tables/writer.hpp"
 
 using namespace qorl::tables_tool;
@@ -37,16 +41,31 @@ std::vector<double> powers(const Real &x, int m) {
     return t;
 }
 
-// Rows of 1/c, log2 c as above, and a zero for each of the 512 parts of [1, 2). 1/c is a multiple of 2^-10 next to the
-// middle of the part, but 1 and 1/2 at the ends.
+// Rows of 1/c, log2 c as above, and a zero for each of the 512 parts of a binade that begins with la_least. 1/c is 1
+// where u = m/c - 1 stays below la_largest_u then, and otherwise the multiple of 2^-10 (2^-9 below 1) that keeps u
+// least.
+constexpr std::int64_t la_least = 0x3FE6A40000000000, la_part = std::int64_t{1} << 43;
+constexpr double la_largest_u = 1.51 * 0x1p-10;
 std::vector<double> la_rows() {
-    constexpr int parts = 512;
     std::vector<double> t;
-    for (int k = 0; k < parts; ++k) {
-        const double middle = 1 + (k + 0.5) / parts;
-        const double inverse = k == 0 ? 1 : k == parts - 1 ? 0.5 : std::nearbyint(1024 / middle) / 1024;
-        const auto [high, low] = log2_words(Real(1) / Real(inverse));
-        t.insert(t.end(), {inverse, high, low, 0.0});
+    for (int k = 0; k < 512; ++k) {
+        const double low = std::bit_cast<double>(la_least + k * la_part);
+        const double high = std::bit_cast<double>(la_least + (k + 1) * la_part);
+        const auto largest_u = [&](double inverse) {
+            return std::max(std::fabs(low * inverse - 1), std::fabs(high * inverse - 1));
+        };
+        const double step = high <= 1 ? 0x1p-9 : 0x1p-10;
+        const double below = std::floor(2 / (low + high) / step) * step, above = below + step;
+        const double nearest = largest_u(below) < largest_u(above) ? below : above;
+        const double inverse = largest_u(1) < la_largest_u ? 1 : nearest;
+        const auto [log, log_low] = log2_words(Real(1) / Real(inverse));
+        t.insert(t.end(), {inverse, log, log_low, 0.0});
+        // What the body counts on: u in the interval of the polynomial, and the difference of log2 m, once rounded, and
+        // log2 c a number of 53 bits.
+        const double sum = std::min(std::fabs(std::log2(low)), std::fabs(std::log2(high)));
+        const double bits_53 = std::ldexp(2, std::ilogb(sum));
+        if (largest_u(inverse) >= la_largest_u || (inverse != 1 && largest_u(inverse) / std::log(2.0) > bits_53))
+            std::abort();
     }
     return t;
 }
@@ -76,15 +95,16 @@ int main() {
     constant("pow_ln2_2048", step.to_double(), "ln 2 / 2048");
     table("pow_log2_pairs", log2_pairs(), "log2(1024/R), R = 512 .. 1024: a multiple of 2^-41 and the rounded rest.",
           2);
-    table("pow_la_rows", la_rows(),
-          "1/c, log2 c as a multiple of 2^-41 and the rounded rest, 0; c next to the middle of the part.", 4);
+    constant("pow_la_least", std::bit_cast<double>(la_least), "where the binade of the following rows begins");
+    table("pow_la_rows", la_rows(), "1/c, log2 c as a multiple of 2^-41 and the rounded rest, 0.", 4);
     table("pow_logs", logs(), "log(1024/R), R = 512 .. 1024.", 4);
     table("pow_exp2_pairs", exp2_pairs(128), "2^(j/128) in two words: the rounded value and the rounded rest.", 2);
     table("pow_exp2_256", powers(ln2() / Real(256), 256), "2^(j/256).", 4);
     table("pow_exp2_2048", powers(step, 2048), "2^(j/2048).", 4);
 
-    // |u| is below 1.376 2^-10 + 2^-23 after the reduction.
-    const Real u(1.38 * 0x1p-10), f128(0x1.00001p-8), f256(0x1.00001p-9), r2048 = step * Real(0.50001);
+    // |u| is below 1.376 2^-10 + 2^-23 after the reduction by an estimate, and below 1.48 2^-10 by the rows.
+    const Real u(1.38 * 0x1p-10), la_u(la_largest_u), f128(0x1.00001p-8), f256(0x1.00001p-9),
+        r2048 = step * Real(0.50001);
     const auto log1p = [](const Real &x) { return log(Real(1) + x); };
     const auto log2_rest = [&](const Real &x) { return log(Real(1) + x) / ln2() - x * Real(log2_e.to_double()); };
     const auto exp2_of = [](const Real &x) { return exp2(x); };
@@ -97,9 +117,9 @@ int main() {
         [](const Real &x) { return Real(2) * (log(Real(1) + x) - x + x * x * Real(0.5)) / (x * x * x); }, negative(u),
         u, Error::absolute);
     fitted<double>("pow_la_log2_poly", {0},
-                   {pow_log2_e_low, -0x1.71547652b82fbp-1, 0x1.ec709dc39e44dp-2, -0x1.71547660c6c8fp-2,
-                    0x1.2776ee5b255fep-2, -0x1.ebc32ba1c9096p-3},
-                   "log2(1 + u) - u pow_log2_e = u (c0 + c1 u + ...)", log2_rest, Real(-1.45 * 0x1p-10), Real(0x1p-9),
+                   {pow_log2_e_low, -0x1.71547652b82fep-1, 0x1.ec709dc39e673p-2, -0x1.71547652b42bfp-2,
+                    0x1.2776eeeec0543p-2, -0x1.ec71033803105p-3},
+                   "log2(1 + u) - u pow_log2_e = u (c0 + c1 u + ...)", log2_rest, negative(la_u), la_u,
                    Error::absolute);
     fitted<double>("pow_ep_ln_poly", {0}, {1, -0x1.fffffffffeffap-2, 0x1.555569870124dp-2, -0x1.00001cba52797p-2},
                    "log(1 + u) = u (c0 + c1 u + ...)", log1p, negative(u), u, Error::relative);
