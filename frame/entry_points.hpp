@@ -56,10 +56,14 @@
 
 #define QORL_PLAIN(...) __VA_ARGS__  // takes the parentheses off
 
-// The two entry points of a kernel. The table of the function and the kernel's name row come from the assembler.
+// The slots of a function, unit-stride and strided, by level; they come from the assembler.
+#define QORL_SLOTS(t, Function) \
+    extern "C" [[gnu::visibility("hidden")]] void *const qorl_ttab_##t##Function[3], *const qorl_ttab_##t##Function##I[3]
+
+// The two entry points of a kernel. Its name row comes from the assembler as well.
 #define QORL_ENTRIES(t, Function, level, K, scalars, parameters, arguments, arrays, strided_parameters, all_one,    \
                      strided_arrays)                                                                                \
-    extern "C" [[gnu::visibility("hidden")]] void *const qorl_ttab_##t##Function[3];                                \
+    QORL_SLOTS(t, Function);                                                                                        \
     extern "C" [[gnu::visibility("hidden")]] const char qorl_name_##t##Function##_##level[];                        \
     extern "C" void qorl_kernel_##t##Function##_##level parameters {                                                \
         using Kernel = QORL_PLAIN K;                                                                                \

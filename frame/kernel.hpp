@@ -11,8 +11,9 @@
 //
 // body is required. special and scalar come together; without them no lane is special and nothing is raised. Optional
 // members: tail_body, where the tail differs from the blocks; saturate, lanes that need no scalar call while error
-// handling is off; tail_safe, the value of lanes behind the end (0.75); strided_form. Scalar arguments of a function
-// are data members. Two results are returned as a std::pair.
+// handling is off; dispatch, which may do a whole call in another way before anything else is done, and returns true
+// then; tail_safe, the value of lanes behind the end (0.75); strided_form. Scalar arguments of a function are data
+// members. Two results are returned as a std::pair.
 //
 // The drivers add entry and exit, the block loop, the masked tail, the strided forms and the raise. The result of an
 // element depends on its value alone.
@@ -265,6 +266,9 @@ template <class K, class Arrays>
 
 template <Kernel K, class Arrays>
 QORL_INLINE void enter(const K &kernel, const Arrays &arrays, std::int32_t n, const char *name) {
+    if constexpr (requires { kernel.dispatch(arrays, n); }) {
+        if (kernel.dispatch(arrays, n)) return;
+    }
     const ControlScope control;
     run(kernel, arrays, n, Call{control.error_mode(), name});
 }

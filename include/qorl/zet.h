@@ -2677,7 +2677,8 @@ void _zetzMulByConjI_26(int32_t n, const QorlComplex16 *a, int32_t inca, const Q
 /** @name Powx
  * y = a^b, b one number for all elements.
  * As Pow, element by element; the exponents -1, 0.5, -0.5 and 1.5 give the bits and statuses of Inv, Sqrt, InvSqrt and
- * Pow3o2.
+ * Pow3o2, and at EP those next to 2/3, 1/3 and -1/3 those of Pow2o3, Cbrt and InvCbrt. The exponents 0, 1 and 2 raise
+ * nothing.
  * @{ */
 void _zetsPowx_21(int32_t n, const float *a, float b, float *y);
 void _zetsPowx(int32_t n, const float *a, float b, float *y);

@@ -206,6 +206,26 @@ constexpr Row rows[] = {
     {"Powr", "d", {3, -652}, near, 4},  // 2^-1033.4
     {"Powr", "d", {2, -1074}, DBL_TRUE_MIN, 4},
     {"Powr", "d", {2, -1075}, 0, 4},
+
+    // Exponents with a function of their own raise what it raises, loops nothing; the others are as those of Pow.
+    {"Powx", "sd", {0.0, -1}, inf, 2},
+    {"Powx", "sd", {-0.0, -1}, -inf, 2},
+    {"Powx", "sd", {0.0, -3}, inf, 1},
+    {"Powx", "sd", {-1, 0.5}, nan, 1},
+    {"Powx", "sd", {-0.0, -0.5}, -inf, 2},
+    {"Powx", "sd", {-4, 1.5}, nan, 1},
+    {"Powx", "sd", {-8, 1.0 / 3}, nan, 1, "LA HA"},
+    {"Powx", "sd", {-8, -1.0 / 3}, nan, 1, "LA HA"},
+    {"Powx", "sd", {-8, 2.0 / 3}, nan, 1, "LA HA"},
+    {"Powx", "sd", {-8, 2.5}, nan, 1},
+    {"Powx", "sd", {-8, 3}, -512, 0, "HA"},
+    {"Powx", "sd", {nan, 0}, 1, 0},
+    {"Powx", "sd", {nan, -0.0}, 1, 0},
+    {"Powx", "sd", {-inf, 1}, -inf, 0},
+    {"Powx", "s", {-1e30, 2}, inf, 0},
+    {"Powx", "s", {-1e30, 4}, inf, 3},
+    {"Powx", "d", {-1e300, 2}, inf, 0},
+    {"Powx", "d", {-1e300, 4}, inf, 3},
 };
 
 class Power : public testing::TestWithParam<Function> {};
