@@ -40,6 +40,14 @@ struct Pack {
         each_register<N>([&](int i) { v[i] = Ops::broadcast(value); });
     }
 
+    // One of its registers.
+    QORL_INLINE Pack<T, 1> part(int i) const {
+        Pack<T, 1> r;
+        r.v[0] = v[i];
+        return r;
+    }
+    QORL_INLINE void set_part(int i, Pack<T, 1> x) { v[i] = x.v[0]; }
+
     template <auto F, class... P>
     QORL_INLINE static Pack map(const P &...p) {  // F on each register
         Pack r;
@@ -312,6 +320,32 @@ class RowLookup {
 
     std::uintptr_t base_;
     std::array<std::uintptr_t, 4> at_[N];
+};
+// As lookup_pair, with the indices going through memory instead of integer registers, which is faster where the vector
+// side is the busy one. The offset of a lane is twice the 16 bits from byte `Byte` on of its key, less `Bias`. All keys
+// are put first, so that none is read while its store is still on the way.
+template <int N, int Byte, std::ptrdiff_t Bias>
+class KeyedPairs {
+  public:
+    QORL_INLINE void put(int i, Pack<double, 1> key) { store(reinterpret_cast<double *>(keys_[i]), key); }
+    QORL_INLINE Pack<double, 1> key(int i) const { return load<1>(reinterpret_cast<const double *>(keys_[i])); }
+    QORL_INLINE void pair(const double *table, int i, Pack<double, 1> &first, Pack<double, 1> &second) const {
+        const __m256d a = _mm256_insertf128_pd(_mm256_castpd128_pd256(at(table, i, 0)), at(table, i, 2), 1);
+        const __m256d b = _mm256_insertf128_pd(_mm256_castpd128_pd256(at(table, i, 1)), at(table, i, 3), 1);
+        first.v[0] = _mm256_unpacklo_pd(a, b);
+        second.v[0] = _mm256_unpackhi_pd(a, b);
+    }
+
+  private:
+    QORL_INLINE __m128d at(const double *table, int i, int lane) const {
+        std::uint16_t half_offset;
+        std::memcpy(&half_offset, keys_[i] + sizeof(double) * static_cast<std::size_t>(lane) + Byte,
+                    sizeof half_offset);
+        const std::uintptr_t base = reinterpret_cast<std::uintptr_t>(table) - static_cast<std::uintptr_t>(Bias);
+        return _mm_load_pd(reinterpret_cast<const double *>(base + 2 * std::uintptr_t{half_offset}));
+    }
+
+    alignas(32) char keys_[N][sizeof(__m256d)];
 };
 // One of eight floats or 32-bit integers, by the low three bits of each index.
 template <int N>

@@ -22,9 +22,6 @@
 
 namespace qorl {
 
-// The number of the doubled mantissa's place: x = 2^(E - log_reduce_bias) m.
-inline constexpr double log_reduce_bias = 1013;
-
 // Tables have a row of two doubles for each R from 512 to 1024: byte 16 (R - 512). The offset below counts from
 // log_row_bias bytes ahead of the table, as RowLookup takes it.
 inline constexpr std::ptrdiff_t log_row_bias = 0x810000;
@@ -64,11 +61,61 @@ QORL_INLINE LogReduced<N> log_reduce(Pack<double, N> x) {
     return log_reduce_mantissa(log_mantissa(x));
 }
 
+// The rows of R in a table of pairs, R being the key: from byte 5 on its bits read 0x8000 + 8 (R - 512).
+template <int N>
+using LogRows = KeyedPairs<N, 5, 2 * 0x8000>;
+
 // The raw exponent E of a positive x as a double.
 template <int N>
 QORL_INLINE Pack<double, N> log_exponent(Pack<double, N> x) {
     return real(shift_right(bits(x), 52) | std::bit_cast<std::int64_t>(0x1p52)) - Pack<double, N>(0x1p52);
 }
+
+// 2^(1013 - E) for positive x below 2^1013.
+template <int N>
+QORL_INLINE Pack<double, N> log_inverse_scale(Pack<double, N> x) {
+    constexpr std::int64_t exponent_bits = 0x7FF0000000000000, sum = std::int64_t{1023 + 1013} << 52;
+    return real(Pack<std::int64_t, N>(sum) - (bits(x) & exponent_bits));
+}
+
+// What is not positive, normal and below 2^Top: counted from 2^Top those bits begin at the negative numbers and come
+// round behind them to 0, below the bits of the least normal number.
+template <int Top = 1024, int N>
+QORL_INLINE Mask<double, N> log_special(Pack<double, N> x) {
+    constexpr std::int64_t one_exponent = std::int64_t{1} << 52, shift = (1025 - Top) * one_exponent;
+    return int_greater(Pack<std::int64_t, N>(shift + one_exponent), bits(x) + shift);
+}
+
+// Another reduction, for bodies that need no table: x = 2^e m, sqrt(1/2) <= m < sqrt 2, so that logarithms next to 1 do
+// not cancel. With z = (m - 1) / (m + 1), log m = 2 atanh z is a short odd series.
+template <int N>
+struct LogCentred {
+    static constexpr std::int64_t least = std::bit_cast<std::int64_t>(0x1.6a09e667f3bcdp-1);  // sqrt(1/2)
+
+    QORL_INLINE explicit LogCentred(Pack<double, N> x) : t(bits(x) - (least - (std::int64_t{1025} << 52))) {}
+
+    QORL_INLINE Pack<double, N> mantissa() const {
+        constexpr std::int64_t mantissa_bits = 0x000FFFFFFFFFFFFF;
+        return real((t & mantissa_bits) + least);
+    }
+    QORL_INLINE Pack<double, N> exponent() const {
+        return real(shift_right(t, 52) | std::bit_cast<std::int64_t>(0x1p52)) - Pack<double, N>(0x1p52 + 1025);
+    }
+    // 2^-e
+    QORL_INLINE Pack<double, N> inverse_scale() const {
+        constexpr auto exponent_bits = static_cast<std::int64_t>(0xFFF0000000000000);
+        constexpr auto sum = static_cast<std::int64_t>(std::uint64_t{1023 + 1025} << 52);
+        return real(Pack<std::int64_t, N>(sum) - (t & exponent_bits));
+    }
+    // What is not positive and normal, and the numbers with e = 1023: t as a signed number is below that of the least
+    // normal number, for it passes the top at e = 1023 and comes round behind the negative numbers.
+    QORL_INLINE Mask<double, N> special() const {
+        constexpr std::int64_t normal = std::bit_cast<std::int64_t>(0x1p-1022) - (least - (std::int64_t{1025} << 52));
+        return int_greater(Pack<std::int64_t, N>(normal), t);
+    }
+
+    Pack<std::int64_t, N> t;  // the bits of x counted from sqrt(1/2), with 1025 added to the exponent
+};
 
 }  // namespace qorl
 
