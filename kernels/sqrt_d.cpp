@@ -3,8 +3,8 @@
 // Method   s next to 1/sqrt(x) from the processor's estimate (kernels/estimate.hpp), e = 1 - x s^2, |e| < 2^-10.4, and
 //          1/sqrt(x) = s (1 - e)^(-1/2) = s (1 + e p(e)).
 //          Sqrt: x s (1 + e p(e)) with p of degree 3 at LA and 1 at EP. HA: r by the short p, then a Newton step with
-//          the exact rest, r + (x - r^2) h, h next to 1/(2 sqrt(x)) by the short p too. A longer p before that step
-//          would change one result in some 2^16 and cost a tenth of the time.
+//          the exact rest, r + (x - r^2) h, h next to 1/(2 sqrt(x)) by the short p too. With the worst of
+//          estimates that leaves one result in 2^17 rounded to the other side; a longer p buys no more than those.
 //          InvSqrt: LA, which HA shares, and EP with the same two p; s^2 is exact.
 //          Pow3o2: x sqrt(x); HA multiplies r and the Newton step's addend as two words.
 // Range    normal x up to where the intermediate results stay normal. Zeros, denormals, the ends of the range, what is
@@ -13,10 +13,10 @@
 //          Below zero: NaN, domain error (1); -0 gives -0, InvSqrt of +-0 +-inf and singularity (2). Pow3o2: overflow
 //          (3); denormal or zero results of x above zero: underflow (4).
 // Error    any estimate within 1.5 2^-12 gives |e| <= 7.36e-4. Sqrt HA: p leaves r within 2^-34.9, the Newton step
-//          squares that: 0.5 ulp and 2^-15, so that roots that are doubles come out exact. LA: half of the
-//          rounding of x s, for e takes back the rest, that is 0.25 ulp or, where x s has passed a power of two, 0.5,
-//          and 0.5 ulp; EP 2^-34.9. InvSqrt LA: 0.5 ulp, 2^-5 of p and 2^-10 of the
-//          roundings in it. Pow3o2 HA: as Sqrt; LA: Sqrt and 0.5 ulp.
+//          squares that: 0.5 ulp and 2^-15, so that roots that are doubles come out exact. LA: half of the rounding of
+//          x s, for e takes back the rest, that is 0.25 ulp or, where x s has passed a power of two, 0.5, and 0.5 ulp;
+//          EP 2^-34.9. InvSqrt LA: 0.5 ulp, 2^-5 of p and 2^-10 of the roundings in it. Pow3o2 HA: as Sqrt; LA: up to
+//          twice the error of Sqrt, whose ulp can count double in the product, and 0.5 ulp.
 // Source   P. Markstein, IA-64 and Elementary Functions, 2000, chapter 9.
 #include "kernels/tables/sqrt_d.hpp"
 
