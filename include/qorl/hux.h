@@ -578,6 +578,14 @@ QORL_HUX_API int32_t __huxdBRngR250(StreamState *stream, int32_t n, double *r, d
 QORL_HUX_API int32_t __huxiBRngR250(StreamState *stream, int32_t n, void *r);
 /** @} */
 
+/** @name MT19937: the Mersenne Twister of period 2^19937 - 1, seeded by an array of words of any length. Skip-ahead. */
+/** @{ */
+QORL_HUX_API int32_t __huxBRngMT19937InitStream(int32_t method, StreamState *stream, int32_t n, const void *params);
+QORL_HUX_API int32_t __huxsBRngMT19937(StreamState *stream, int32_t n, float *r, float a, float b);
+QORL_HUX_API int32_t __huxdBRngMT19937(StreamState *stream, int32_t n, double *r, double a, double b);
+QORL_HUX_API int32_t __huxiBRngMT19937(StreamState *stream, int32_t n, void *r);
+/** @} */
+
 /** @name ARS5: five AES rounds of a counter; HuxStatusNoAesInstruction where the processor has none. Skip-ahead, long
  * too. */
 /** @{ */

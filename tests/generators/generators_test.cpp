@@ -15,7 +15,7 @@ namespace qorl::test {
 namespace {
 
 std::vector<Generator> generators() {
-    return {mcg31m1(),       mcg59(),      r250(),       mrg32k3a(),       ars5(),
+    return {mcg31m1(),       mcg59(),      r250(),       mrg32k3a(),       ars5(),          mt19937(),
             philox4x32x10(), wh("WH0", 0), wh("WH1", 1), wh("WH136", 136), wh("WH272", 272)};
 }
 
