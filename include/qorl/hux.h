@@ -586,6 +586,14 @@ QORL_HUX_API int32_t __huxdBRngMT19937(StreamState *stream, int32_t n, double *r
 QORL_HUX_API int32_t __huxiBRngMT19937(StreamState *stream, int32_t n, void *r);
 /** @} */
 
+/** @name SFMT19937: the Mersenne Twister on elements of 128 bits, seeded by an array of words. Skip-ahead. */
+/** @{ */
+QORL_HUX_API int32_t __huxBRngSFMT19937InitStream(int32_t method, StreamState *stream, int32_t n, const void *params);
+QORL_HUX_API int32_t __huxsBRngSFMT19937(StreamState *stream, int32_t n, float *r, float a, float b);
+QORL_HUX_API int32_t __huxdBRngSFMT19937(StreamState *stream, int32_t n, double *r, double a, double b);
+QORL_HUX_API int32_t __huxiBRngSFMT19937(StreamState *stream, int32_t n, void *r);
+/** @} */
+
 /** @name ARS5: five AES rounds of a counter; HuxStatusNoAesInstruction where the processor has none. Skip-ahead, long
  * too. */
 /** @{ */

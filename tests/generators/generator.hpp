@@ -39,6 +39,7 @@ Generator wh(const char *name, int member);
 Generator ars5();
 Generator philox4x32x10();
 Generator mt19937();
+Generator sfmt19937();
 
 inline Element element_of(std::uint64_t word) {
     return {static_cast<std::uint32_t>(word), static_cast<std::uint32_t>(word >> 32), 0, 0};

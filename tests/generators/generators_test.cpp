@@ -15,8 +15,8 @@ namespace qorl::test {
 namespace {
 
 std::vector<Generator> generators() {
-    return {mcg31m1(),       mcg59(),      r250(),       mrg32k3a(),       ars5(),          mt19937(),
-            philox4x32x10(), wh("WH0", 0), wh("WH1", 1), wh("WH136", 136), wh("WH272", 272)};
+    return {mcg31m1(),   mcg59(),         r250(),       mrg32k3a(),   ars5(),           mt19937(),
+            sfmt19937(), philox4x32x10(), wh("WH0", 0), wh("WH1", 1), wh("WH136", 136), wh("WH272", 272)};
 }
 
 // All that can be drawn from one position. The numbers are compared as bits.
