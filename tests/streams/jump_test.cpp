@@ -117,12 +117,13 @@ TEST_P(Jump, IsSoManySteps) {
         for (const std::uint32_t ready : {0u, 4u}) {
             Record stepped(0);
             for (std::uint64_t n = 0; n < 700; ++n) {
+                if (n > ready) next(&stepped.head);
+                if (n > 140 && n % 9 != 0) continue;
                 Record jumped(ready);
                 ASSERT_EQ(skip(scheme, &jumped.head, n), HuxStatusOk);
                 ASSERT_EQ(ahead(&jumped.head), ahead(&stepped.head)) << n;
                 ASSERT_EQ(jumped.state.ready, ready - std::min<std::uint64_t>(ready, n));
                 ASSERT_EQ(jumped.state.extra, n > ready ? 9u : 0u) << "finished when there was something to do";
-                if (n >= ready) next(&stepped.head);
             }
         }
     }
