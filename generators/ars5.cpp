@@ -1,10 +1,9 @@
 // ARS5: five rounds of AES on a 128-bit counter, with round keys in arithmetic progression.
 //
-// Method  Round key i is the key plus i times a constant, two additions of 64 bits. The counter is XOR-ed with the key
-// and
-//         goes through four rounds and a last one by the processor's instructions. Blocks are independent: eight at a
-//         time hide the latency of the rounds. Vectors count in the low 64 bits, so that a run of passes ends where
-//         these overflow.
+// Method  Round key i is the key plus i times a constant, two additions of 64 bits. The counter is XOR-ed with the
+//         key and goes through four rounds and a last one by the processor's instructions. Blocks are independent:
+//         eight at a time hide the latency of the rounds. Vectors count in the low 64 bits, so that a run of passes
+//         ends where these overflow.
 // Source  Salmon, Moraes, Dror and Shaw, "Parallel random numbers: as easy as 1, 2, 3", SC11, 2011.
 #include <cstdint>
 #include <utility>

@@ -140,13 +140,6 @@ std::int32_t move(StreamState *stream, std::uint64_t n, std::uint64_t multiplier
     return HuxStatusOk;
 }
 
-template <class T>
-T read(const void *params) {
-    T value;
-    std::memcpy(&value, params, sizeof value);
-    return value;
-}
-
 template <McgKind kind>
 std::int32_t init(std::int32_t method, StreamState *stream, std::int32_t n, const void *params) {
     using M = Mcg<kind>;
@@ -159,10 +152,10 @@ std::int32_t init(std::int32_t method, StreamState *stream, std::int32_t n, cons
             state.a = static_cast<Word>(M::default_multiplier);
             return add_lanes<kind>(stream, state);
         case method_leapfrog:
-            return move<kind>(stream, read<std::uint32_t>(params),
+            return move<kind>(stream, *static_cast<const std::uint32_t *>(params),
                               M::power(multiplier_of<kind>(state), static_cast<std::uint32_t>(n)));
         case method_skip_ahead:
-            return move<kind>(stream, read<std::uint64_t>(params), multiplier_of<kind>(state));
+            return move<kind>(stream, *static_cast<const std::uint64_t *>(params), multiplier_of<kind>(state));
         case method_skip_ahead_long:
             return HuxStatusSkipAheadExUnsupported;
         default:

@@ -8,9 +8,8 @@
 //         Eight numbers in a row of each component are in flight, which a^8 moves on. The current x is given out before
 //         it is moved.
 // Source  Wichmann and Hill, "Generating good pseudo-random numbers", Computational Statistics & Data Analysis 51,
-// 2006;
-//         MacLaren, "The generation of multiple independent sequences of pseudorandom numbers", Applied Statistics 38,
-//         1989, for the choice of the sets.
+//         2006; MacLaren, "The generation of multiple independent sequences of pseudorandom numbers", Applied
+//         Statistics 38, 1989, for the choice of the sets.
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
@@ -130,13 +129,6 @@ void jump(WhState &state, std::uint64_t steps, std::uint64_t power, std::int32_t
     }
 }
 
-template <class T>
-T read(const void *from) {
-    T value;
-    std::memcpy(&value, from, sizeof value);
-    return value;
-}
-
 }  // namespace
 }  // namespace qorl
 
@@ -150,10 +142,10 @@ int32_t __huxBRngWHInitStream(int32_t method, StreamState *stream, int32_t n, co
             seed(state, n, params, first);
             return HuxStatusOk;
         case method_leapfrog:
-            jump(state, read<uint32_t>(params), static_cast<uint32_t>(n), first);
+            jump(state, *static_cast<const uint32_t *>(params), static_cast<uint32_t>(n), first);
             return HuxStatusOk;
         case method_skip_ahead:
-            jump(state, read<uint64_t>(params), 1, first);
+            jump(state, *static_cast<const uint64_t *>(params), 1, first);
             return HuxStatusOk;
         case method_skip_ahead_long:
             return HuxStatusSkipAheadExUnsupported;

@@ -8,8 +8,8 @@
 //          Reduction is Barrett's, which is exact for polynomials: with u = x^(128 L) div p = x^(64 L) + u0 and
 //          a = h x^(64 L) + l, the quotient is h + (h u0 div x^(64 L)), and the remainder l plus the low L words of
 //          quotient times p0. Both products are Karatsuba's.
-// Source   Barrett, CRYPTO '86; Karatsuba and Ofman 1962; Brent and Zimmermann, Modern Computer Arithmetic, 1.3
-// and 2.4.
+// Source   Barrett, CRYPTO '86; Karatsuba and Ofman 1962; Brent and Zimmermann, Modern Computer Arithmetic,
+//          1.3 and 2.4.
 #include "streams/gf2.hpp"
 
 #include <algorithm>

@@ -1,10 +1,10 @@
 // Jumps of linear recurrences over GF(2).
 //
-// With A one step, p its characteristic polynomial and g = x^n mod p, A^n = g(A) by the theorem of Cayley and Hamilton,
-// and g(A) s is evaluated by Horner's rule: a step for each power, an addition of s for each bit of g. The sliding
-// window takes eight powers at once where the leading bit of them is set, with the 128 states that may then be added in
-// a table: about a ninth of the additions. Source   Haramoto, Matsumoto, Nishimura, Panneton and L'Ecuyer, INFORMS
-// Journal on Computing 20(3), 2008.
+// Method  With A one step, p its characteristic polynomial and g = x^n mod p, A^n = g(A) by the theorem of Cayley and
+//         Hamilton, and g(A) s is evaluated by Horner's rule: a step for each power, an addition of s for each bit of
+//         g. The sliding window takes eight powers at once where the leading bit of them is set, with the 128 states
+//         that may then be added in a table: an addition for about nine powers instead of two.
+// Source  Haramoto, Matsumoto, Nishimura, Panneton and L'Ecuyer, INFORMS Journal on Computing 20(3), 2008.
 #include <cstddef>
 #include <cstring>
 #include <new>
