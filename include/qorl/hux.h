@@ -102,7 +102,7 @@ typedef struct StreamState {
 typedef int32_t (*BrngInitFunction)(int32_t method, StreamState *stream, int32_t n, const void *params);
 
 /**
- * @brief Draws n uniform numbers on [a, b); whether an end can be met is the generator's property.
+ * @brief Draws n uniform numbers on [a, b]. The section of the generators tells which ends can be met.
  * @param stream The stream, which continues where the last call stopped, whatever its n was.
  * @param n      Count; below 1 nothing is written.
  * @param r      Receives n numbers; any alignment that the type allows.
@@ -535,6 +535,13 @@ QORL_HUX_API int32_t __hux_SkipAheadSWin(StreamState *stream, HuxJumpClear clear
 /*
  * Each generator has an initialisation (#BrngInitFunction) and the three functions of drawing (#BrngSingleFunction,
  * #BrngDoubleFunction, #BrngIntegerFunction). Callers usually reach them through a stream's row.
+ *
+ * Ends of [0, 1]: in single precision, rounding can give 1. In double precision only MCG59 and MRG32K3A give it. 0 does
+ * not come from MCG31M1, MCG59 and MRG32K3A. On other intervals, rounding can give either end.
+ *
+ * The three functions draw from one sequence. MCG31M1 and MCG59 are different: `d` and `s` keep a position of their own
+ * (a chunk of the stream). After `i` they go on where they stopped themselves, and `i` then goes on behind them.
+ * Skip-ahead and leapfrog move from the position of `i` and join the two.
  */
 
 /** @name MCG31M1: x <- a x mod 2^31 - 1. Integers are x, 1 to 2^31 - 2. Leapfrog and skip-ahead. */
