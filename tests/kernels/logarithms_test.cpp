@@ -62,6 +62,10 @@ constexpr Row rows[] = {
     {"Ln", "d", {2}, 0x1.62e42fefa39efp-1, 0, "HA"},
     {"Log10", "sd", {1000}, 3, 0, "HA"},
     {"Ln Log10 Log2", "s", {0x1.000002p+0}, near, 0},
+    {"Ln Log10 Log2", "s", {0x1.5561a8p-1}, near, 0},  // the last with an exponent of -1, and the first with 0
+    {"Ln Log10 Log2", "s", {0x1.5561aap-1}, near, 0},
+    {"Ln Log10 Log2", "s", {0x1.5561a8p+0}, near, 0},  // the last with 0, and the first with 1
+    {"Ln Log10 Log2", "s", {0x1.5561aap+0}, near, 0},
     {"Ln Log10 Log2", "s", {0x1.fffffep-1}, near, 0},
     {"Ln Log10 Log2", "d", {0x1.0000000000001p+0}, near, 0},
     {"Ln Log10 Log2", "d", {0x1.fffffffffffffp-1}, near, 0},
@@ -79,6 +83,9 @@ constexpr Row rows[] = {
     {"Log1p", "d", {-0x1.fffffffffffffp-61}, near, 0},
     {"Log1p", "s", {-0x1.fffffep-1}, near, 0},  // the next to -1
     {"Log1p", "d", {-0x1.fffffffffffffp-1}, near, 0},
+    {"Log1p", "s", {-0x1.fffffcp-1}, near, 0},  // the first that the bodies take
+    {"Log1p", "s", {0x1.000002p+24}, near, 0},  // where 1 + x has no exact rest
+    {"Log1p", "s", {0x1.fffffep+118}, near, 0},
     {"Log1p", "s", {0x1p119}, near, 0},
     {"Log1p", "d", {0x1.fffffffffffffp+1012}, near, 0},
     {"Log1p", "d", {0x1p1013}, near, 0},
