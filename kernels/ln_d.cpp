@@ -36,15 +36,15 @@ struct BaseE {
     QORL_INLINE static P high(P e, P first) {
         return fma(e, P(ln2_hi), first);
     }
-    // HA: the low words and what log_e_short u leaves of log(1 + u)
+    // HA: log_e_short u, rounded
     template <class P>
-    QORL_INLINE static P low(P e, P u, P second) {
-        return fma(u * u, horner(u, ln_ha_poly), fma(e, P(ln2_lo), second));
+    QORL_INLINE static P leading(P u) {
+        return u;
     }
-    // HA: a + log_e_short u
+    // HA: the low words and what the leading term leaves of log(1 + u)
     template <class P>
-    QORL_INLINE static P add_short(P u, P a) {
-        return u + a;
+    QORL_INLINE static P low(P e, P u, P, P second) {
+        return fma(u * u, horner(u, ln_ha_poly), fma(e, P(ln2_lo), second));
     }
     // LA: the logarithm of 2^e m
     template <class P>
@@ -62,12 +62,12 @@ struct Base10 {
         return fma(e, P(log10_2_hi), first);
     }
     template <class P>
-    QORL_INLINE static P low(P e, P u, P second) {
-        return fma(u, horner(u, log10_ha_poly), fma(e, P(log10_2_lo), second));
+    QORL_INLINE static P leading(P u) {
+        return u * P(log10_e_short);
     }
     template <class P>
-    QORL_INLINE static P add_short(P u, P a) {
-        return fma(u, P(log10_e_short), a);
+    QORL_INLINE static P low(P e, P u, P leading, P second) {
+        return fma(u, horner(u, log10_ha_poly), fma(e, P(log10_2_lo), second) + fms(u, P(log10_e_short), leading));
     }
     template <class P>
     QORL_INLINE static P la(P e, P ln_m) {
@@ -84,12 +84,12 @@ struct Base2 {
         return e + first;
     }
     template <class P>
-    QORL_INLINE static P low(P, P u, P second) {
-        return fma(u, horner(u, log2_ha_poly), second);
+    QORL_INLINE static P leading(P u) {
+        return u * P(log2_e_short);
     }
     template <class P>
-    QORL_INLINE static P add_short(P u, P a) {
-        return fma(u, P(log2_e_short), a);
+    QORL_INLINE static P low(P, P u, P leading, P second) {
+        return fma(u, horner(u, log2_ha_poly), second + fms(u, P(log2_e_short), leading));
     }
     template <class P>
     QORL_INLINE static P la(P e, P ln_m) {
@@ -109,10 +109,10 @@ struct Log : OneResult<double> {
     // E log 2 plus the row (first, second) plus log(1 + u).
     template <class P>
     QORL_INLINE static P ha(P e, P u, P first, P second) {
-        const P high = Base::high(e, first);
-        // sum + rest = high + log_e_short u, exactly
-        const P sum = Base::add_short(u, high), rest = Base::add_short(u, high - sum);
-        return sum + (rest + Base::low(e, u, second));
+        const P high = Base::high(e, first), leading = Base::leading(u);
+        // sum + rest = high + leading, exactly: high is 0 or the larger one for every estimate of the reciprocal.
+        const P sum = high + leading, rest = high - sum + leading;
+        return sum + (rest + Base::low(e, u, leading, second));
     }
 
     template <int N>
