@@ -39,6 +39,36 @@ constexpr Row rows[] = {
     {"InvCbrt", "sd", {-0.125}, -2, 0, "LA HA"},
     {"Pow2o3", "sd", {-27}, 9, 0, "HA"},
     {"Pow2o3", "d", {DBL_TRUE_MIN}, 0x1p-716, 0, "HA"},
+    {"Hypot", "sd", {inf, nan}, inf, 0},
+    {"Hypot", "sd", {nan, -inf}, inf, 0},
+    {"Hypot", "sd", {-inf, 1}, inf, 0},
+    {"Hypot", "sd", {inf, -inf}, inf, 0},
+    {"Hypot", "sd", {nan, 1}, nan, 0},
+    {"Hypot", "sd", {0, nan}, nan, 0},
+    {"Hypot", "sd", {0.0, 0.0}, 0.0, 0},
+    {"Hypot", "sd", {-0.0, -0.0}, 0.0, 0},
+    {"Hypot", "sd", {3, -4}, 5, 0, "HA"},
+    {"Hypot", "sd", {0, -7.3}, near, 0},
+    {"Hypot", "d", {1e308, 1e308}, near, 0},
+    {"Hypot", "d", {1.7e308, 1.7e308}, inf, 0},
+    {"Hypot", "s", {2e38, 2e38}, near, 0},
+    {"Hypot", "s", {FLT_MAX, -FLT_MAX}, inf, 0},
+    {"Hypot", "d", {3 * DBL_TRUE_MIN, 4 * DBL_TRUE_MIN}, 5 * DBL_TRUE_MIN, 0},
+    {"Hypot", "s", {3 * FLT_TRUE_MIN, 4 * FLT_TRUE_MIN}, 5 * FLT_TRUE_MIN, 0},
+    {"Hypot", "d", {DBL_MIN, DBL_TRUE_MIN}, near, 0},
+    {"Hypot", "d", {1e-300, 1e-310}, near, 0},
+    // both sides of the ends of the fast range, and a square that underflows beside one that does not
+    {"Hypot", "d", {0x1p-63, 0}, near, 0},
+    {"Hypot", "d", {0x1.fffffffffffffp-64, 0}, near, 0},
+    {"Hypot", "d", {0x1.fffffffffffffp62, 0x1p40}, near, 0},
+    {"Hypot", "d", {0x1p63, 0x1p62}, near, 0},
+    {"Hypot", "d", {0x1.8p64, 0x1p62}, near, 0},
+    {"Hypot", "s", {0x1p-50, 0}, near, 0},
+    {"Hypot", "s", {0x1.fffffep-51, 0x1p-60}, near, 0},
+    {"Hypot", "s", {0x1.6p63, 0x1p62}, near, 0},
+    {"Hypot", "s", {0x1.7p63, 0x1p62}, near, 0},
+    {"Hypot", "d", {0x1p-540, 0x1.3p-20}, near, 0},
+    {"Hypot", "s", {0x1p-80, 0x1.3p-20}, near, 0},
     {"Sqrt InvSqrt Pow3o2 Inv", "sd", {nan}, nan, 0},
     {"Sqrt InvSqrt Pow3o2 Inv", "sd", {-nan}, nan, 0},
     {"Sqrt Pow3o2", "sd", {inf}, inf, 0},
@@ -195,6 +225,28 @@ TEST(InvSqrt, IsExactAtPowersOfFourAtHA) {
             });
         }
     });
+}
+
+TEST(Hypot, GivesTheSameBitsForEitherOrderAndAnySigns) {
+    for (const Function &function : landed("Hypot")) {
+        for_type(function, [&]<class T>(T) {
+            std::mt19937_64 random(1);
+            std::vector<T> a, b, minus_a;
+            while (a.size() < 20000) {
+                a.push_back(static_cast<T>(std::ldexp(static_cast<double>(random()), static_cast<int>(random() % 8))));
+                b.push_back(static_cast<T>(random()));
+                minus_a.push_back(-a.back());
+            }
+            const std::int32_t n = static_cast<std::int32_t>(a.size());
+            std::vector<T> y(a.size()), z(a.size());
+            for (const Level level : levels) {
+                call(*find_entry(function.type, "Hypot"), level, n, Arguments<T>{{a.data(), b.data()}, {y.data()}});
+                call(*find_entry(function.type, "Hypot"), level, n,
+                     Arguments<T>{{b.data(), minus_a.data()}, {z.data()}});
+                EXPECT_EQ(y, z) << level_names[static_cast<int>(level)];
+            }
+        });
+    }
 }
 
 }  // namespace
