@@ -166,7 +166,7 @@ void finish(StreamState *stream, const StreamState *temp, std::int32_t extra) {
     state.settle(Sfmt19937State::size - element + skipped);
 }
 
-// Up to here fewer steps than additions of a table are made.
+// Up to here the jump polynomial is a single power, for which Horner's rule adds nothing.
 constexpr std::uint64_t longest_plain_skip = 19967;
 
 std::int32_t skip(StreamState *stream, std::uint64_t count) {
