@@ -9,9 +9,8 @@
 //          rest. At the ends 1/m is at least 512 and at most 1024 (1 + 2^-23), and the estimate is nearer to
 //          them than to the next number of nine bits, below 512 a half away and above 1024 two.
 // Source   W.-F. Wong and E. Goto, Fast hardware-based algorithms for elementary function computations using
-// rectangular
-//          multipliers, IEEE Trans. Computers 43(3), 1994; P. T. P. Tang, Table-driven implementation of the logarithm
-//          function, ACM TOMS 16(4), 1990.
+//          rectangular multipliers, IEEE Trans. Computers 43(3), 1994; P. T. P. Tang, Table-driven implementation of
+//          the logarithm function, ACM TOMS 16(4), 1990.
 #ifndef QORL_KERNELS_LOG_REDUCE_HPP
 #define QORL_KERNELS_LOG_REDUCE_HPP
 

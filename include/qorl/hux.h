@@ -206,8 +206,9 @@ QORL_HUX_API int32_t __huxRegisterBrng(const BrngProperties *properties);
  * @param n      Seed words; 0 or negative for the generator's default.
  * @param params The seed.
  * @return HuxStatusOk. HuxStatusBadBrngId when there is no such generator, when it is not there yet, or when it is
- *         abstract, `*stream` then untouched. HuxStatusOutOfMemory with `*stream` null. Otherwise what the generator's
- *         `init` answers: then `*stream` is set, also on failure, and is to be deleted by the caller.
+ *         abstract, `*stream` then untouched. HuxStatusOutOfMemory with `*stream` null when there is no memory for the
+ *         record. Otherwise what the generator's `init` answers, which may be HuxStatusOutOfMemory too: then
+ *         `*stream` is set, also on failure, and is to be deleted by the caller.
  */
 QORL_HUX_API int32_t __huxNewStreamEx(StreamState **stream, int32_t id, int32_t n, const uint32_t *params);
 
@@ -270,7 +271,8 @@ QORL_HUX_API int32_t __huxsNewAbstractStream(StreamState **stream, int32_t n, fl
  * @param stream   The stream.
  * @param k        Index from 0; not compared with `nstreams`.
  * @param nstreams Number of streams.
- * @return HuxStatusOk, HuxStatusBadStreamCount when `nstreams` is negative, HuxStatusLeapfrogUnsupported.
+ * @return HuxStatusOk, HuxStatusBadStreamCount when `nstreams` is negative, HuxStatusLeapfrogUnsupported, or what the
+ *         generator answers (HuxStatusOutOfMemory of a congruential generator whose lanes are missing).
  */
 QORL_HUX_API int32_t __huxLeapfrogStream(StreamState *stream, int32_t k, int32_t nstreams);
 
