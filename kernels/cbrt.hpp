@@ -14,12 +14,12 @@
 //          take less time than its index alone (1.3 clocks an element in double precision).
 // Range    the bodies take all normal numbers. Zeros, denormals, infinities and NaN go to the scalar function, which
 //          scales denormals by 2^54. No result is denormal or overflows; only 1/cbrt(0) has a status (2).
-// Error    HA: the last rounding, 0.5 ulp; the series, 2^-58.2 (d) and 2^-33.4 (s) of the cube root; the rounding of the
-//          correction, 2^-9 ulp in single precision. LA: h is off by d, |d| <= u = 2^-53 (d) or 2^-24 (s) relative, and
-//          so is the r of this h. In h (1 + 2/3 r + ...) this leaves d/3, in y (1 + r/3 + ...) d/3, in h (1 + r/3 +
-//          ...) 2/3 d, which with the last rounding is 0.84, 0.84 and 1.17 ulp. EP: the error of p. Cubes have exact
-//          roots at LA and HA: what is rounded last is off by less than u/3 + 2^-58, less than half the way to any
-//          neighbour of the root, u/2 or more.
+// Error    HA: the last rounding, 0.5 ulp; the series, 2^-58.2 (d) and 2^-33.4 (s) of the cube root; the rounding of
+//          the correction, 2^-9 ulp in single precision. LA: h is off by d, |d| <= u = 2^-53 (d) or 2^-24 (s)
+//          relative, and so is the r of this h. In h (1 + 2/3 r + ...) this leaves d/3, in y (1 + r/3 + ...) d/3, in
+//          h (1 + r/3 + ...) 2/3 d, which with the last rounding is 0.84, 0.84 and 1.17 ulp. EP: the error of p.
+//          Cubes have exact roots at LA and HA: what is rounded last is off by less than u/3 + 2^-58, less than half
+//          the way to any neighbour of the root, u/2 or more.
 // Source   The estimate: W. Kahan, Computing a real cube root, 1991; for the inverse root L. Moroz, V. Samotyy,
 //          C. Walczyk, J. Cieslinski, Fast calculation of cube and inverse cube roots using a magic constant,
 //          Energies 14(4), 2021.
