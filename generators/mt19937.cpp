@@ -1,9 +1,8 @@
 // MT19937: x(k + 624) from x(k), x(k + 1) and x(k + 397), with the words tempered as they are delivered.
 //
 // Method   The block is regenerated in place, eight words a register. Two registers of it hold words from both ends:
-// the
-//          one whose far words begin at the third last word of the old block, and the last one, whose neighbour is the
-//          first word of the new one.
+//          the one whose far words begin at the third last word of the old block, and the last one, whose neighbour is
+//          the first word of the new one.
 //          A skip shorter than a jump computes the words; a jump takes 19,937 steps of the recurrence at most.
 // Source   Matsumoto and Nishimura, "Mersenne Twister", ACM TOMACS 8(1), 1998.
 #include <algorithm>
