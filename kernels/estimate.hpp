@@ -20,10 +20,6 @@
 namespace qorl {
 
 template <int N>
-QORL_INLINE Pack<float, N> wide_reciprocal_sqrt_estimate(Pack<float, N> x) {
-    return reciprocal_sqrt_estimate(x);
-}
-template <int N>
 QORL_INLINE Pack<double, N> wide_reciprocal_sqrt_estimate(Pack<double, N> x) {
     constexpr std::int32_t kept = 0x00FFFFFF, half = std::bit_cast<std::int32_t>(0.5f), exponent_bits = 0x7FF00000;
     // x = 4^(q - 511) m, m in [1/2, 2); q is the exponent without its lowest bit, halved

@@ -8,8 +8,8 @@
 //          One register a block: a second one's chain of operations does not fit the scheduler of the processor too.
 // Range    the bodies take 2^-126 <= s < 2^126 (d), where the estimate through single precision is good, and
 //          2^-100 <= s < 2^127 (s), where the errors of the squares are numbers of the type. The rest goes to the
-//          scalar function, which computes in the 80-bit format: nothing overflows there, and a denormal result is
-//          rounded once. An infinity with anything, NaN too, gives infinity. No status.
+//          scalar function, which scales the inputs and rounds denormal results once. An infinity with anything, NaN
+//          too, gives infinity. No status.
 // Error    any estimate within 1.5 2^-12 keeps the bounds. With u = 2^-53 (d) or 2^-24 (s): LA 2 u of s, which the root
 //          halves, u/2 of h, since e makes up for the other half, and the last rounding: 2 ulp. HA the last rounding,
 //          2^-58.1 (d) and 2^-34.7 (s) of the series and 2^-10 u in what is added to h: 0.54 ulp; results that are
@@ -22,10 +22,12 @@
 
 #include <bit>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 #include "frame/kernel.hpp"
 #include "frame/poly.hpp"
+#include "kernels/estimate.hpp"
 #include "kernels/tables/hypot.hpp"
 
 namespace qorl {
@@ -44,6 +46,9 @@ struct HypotOf<float> {
     static constexpr auto la_poly = tables::hypot_s_la_poly, ha_poly = la_poly;
     static constexpr float least = 0x1p-100f, top = std::numeric_limits<float>::infinity();
 };
+
+template <class T>
+int hypot_scalar(T a, T b, T *y);
 
 template <class T, Level L>
 struct Hypot : TwoInputs<T> {
@@ -77,13 +82,60 @@ struct Hypot : TwoInputs<T> {
         return not_less_equal(Pack<T, N>(least), real(bits(a * a + b * b) + Pack<Bits, N>(up)));
     }
 
-    static int scalar(T a, T b, T *y) {
-        const long double x = a, z = b;
-        *y = std::isinf(a) || std::isinf(b) ? std::numeric_limits<T>::infinity()
-                                            : static_cast<T>(std::sqrt(x * x + z * z));
+    static int scalar(T a, T b, T *y) { return hypot_scalar(a, b, y); }
+};
+
+// The double next to sqrt(big^2 + small^2), 1 <= big < 2, small <= big, by the body at HA.
+inline double hypot_near_one(double big, double small) {
+    return first_lane(Hypot<double, Level::HA>::body(Pack<double, 1>(big), Pack<double, 1>(small)));
+}
+
+// The multiple of `unit`, a power of two above h / 2^52, next to sqrt(big^2 + small^2), of which h is the double next
+// to it. Only half way between two multiples does h not tell which is nearer; then the side on which h lies does.
+inline double hypot_multiple(double h, double unit, double big, double small) {
+    const double shift = 0x1p52 * unit, rounded = (h + shift) - shift;
+    if (std::abs(h - rounded) != unit / 2) return rounded;
+    const double aa = big * big, bb = small * small, s = aa + bb;
+    const double low = (bb - (s - aa)) + (std::fma(big, big, -aa) + std::fma(small, small, -bb));
+    const double rest = std::fma(-h, h, s) + low;
+    return rest == 0 ? rounded : h + std::copysign(unit / 2, rest);
+}
+
+// All that the bodies leave, the same at every level, in double for both types: the larger input is brought into [1, 2)
+// by powers of two, and the result rounded once on the way back.
+template <class T>
+[[gnu::noinline]] int hypot_scalar(T a, T b, T *y) {
+    if (std::isinf(a) || std::isinf(b)) {
+        *y = std::numeric_limits<T>::infinity();
         return 0;
     }
-};
+    if (std::isnan(a) || std::isnan(b)) {
+        *y = a + b;
+        return 0;
+    }
+    const double x = std::abs(a), z = std::abs(b);
+    double big = std::fmax(x, z), small = std::fmin(x, z), back = 1;
+    if (big < 0x1p-400 || big > 0x1p400) {  // first away from the ends of the range
+        const double scale = big < 1 ? 0x1p700 : 0x1p-700;
+        back = 1 / scale;
+        big *= scale;
+        small *= scale;
+    }
+    if (big == 0) {
+        *y = 0;
+        return 0;
+    }
+    constexpr std::int64_t exponent_bits = 0x7FF0000000000000, twice_bias = std::int64_t{2046} << 52;
+    const std::int64_t power = std::bit_cast<std::int64_t>(big) & exponent_bits;
+    const double scale = std::bit_cast<double>(twice_bias - power), unscale = std::bit_cast<double>(power);
+    big *= scale;
+    small *= scale;
+    double h = hypot_near_one(big, small);
+    if (back < 1 && h * unscale < std::numeric_limits<double>::min() / back)  // a denormal result
+        h = hypot_multiple(h, std::numeric_limits<double>::denorm_min() / back * scale, big, small);
+    *y = static_cast<T>(h * unscale * back);
+    return 0;
+}
 
 }  // namespace qorl
 

@@ -2419,7 +2419,8 @@ void _zetdMinMagI_26(int32_t n, const double *a, int32_t inca, const double *b, 
 /** @name Powr
  * y = a^b = e^(b Ln(a)), a not negative.
  * a < 0: NaN and domain error. A zero a with b < 0: +infinity, no status. Zero to zero, 1 to an infinity and an
- * infinity to zero are NaN. Overflow and underflow are raised.
+ * infinity to zero are NaN. Overflow is raised, and underflow for results below 2^-1032 in double and 2^-136 in single
+ * precision.
  * @{ */
 void _zetsPowr_21(int32_t n, const float *a, const float *b, float *y);
 void _zetsPowr(int32_t n, const float *a, const float *b, float *y);

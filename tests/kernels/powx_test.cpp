@@ -3,6 +3,8 @@
 #include <cmath>
 #include <random>
 
+#include <algorithm>
+
 #include "tests/kernels/special_values.hpp"
 
 namespace qorl::test {
@@ -137,7 +139,6 @@ TEST_P(Powx, FillsCopiesAndSquares) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Landed, Powx, testing::ValuesIn(landed("Powx")), case_name);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Powx);
 
 }  // namespace
 }  // namespace qorl::test
